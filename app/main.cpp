@@ -1,0 +1,49 @@
+// The program: the Qt application and its one main window.
+#include <QApplication>
+#include <QDir>
+#include <QScreen>
+
+#include <optional>
+
+#include "app/frmMain_start.h"
+#include "data/systeem.h"
+#include "ui/berichten.h"
+#include "ui/klein_scherm.h"
+#include "ui/maten.h"
+#include "ui/pictogram.h"
+#include "ui/stijl.h"
+
+int main(int argc, char** argv) {
+    using namespace lauwerkrans;
+    QApplication toepassing(argc, argv);
+    ZetStijl(toepassing);
+    QApplication::setWindowIcon(Pictogram());
+
+    Algemeen algemeen;
+    Instellingen instellingen;
+    frmMain* hoofdvenster = nullptr;
+    algemeen.meld = [&hoofdvenster](const Melding& melding) { ToonMelding(hoofdvenster, melding); };
+
+    const systeem::EnigeKopie enigeKopie("lauwerkrans");
+    if (!enigeKopie.gelukt()) {
+        algemeen.meld({"Het programma is al gestart!...", Icoon::Geen});
+        return 0;
+    }
+    frmMain venster(algemeen, instellingen,
+                    {[&] { BewaarInstellingen(*hoofdvenster, instellingen); }, {}});
+
+    const QString map = QDir::toNativeSeparators(QApplication::applicationDirPath());
+    if (!Form_Load(venster, algemeen, instellingen, map.toStdString())) return 1;
+    hoofdvenster = &venster; // until now messages stand in the middle of the screen
+    const QRect vrij = venster.screen()->availableGeometry();
+    std::optional<KleinScherm> kleinScherm;
+    if (KleinScherm::nodig(venster, vrij)) {
+        kleinScherm.emplace(venster).showMaximized();
+    } else {
+        QRect plaats(QPoint(), maten::Buitenmaat(venster.size()));
+        plaats.moveCenter(vrij.center());
+        venster.move(plaats.topLeft());
+        venster.show();
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,98 @@
+// What tests need around the readers: a folder of their own, a competition written in a few lines
+// of code, and the messages that were shown.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "data/modAlgemeen.h"
+
+namespace lauwerkrans::proef {
+
+/// A new folder for one test, removed with its owner.
+class Proefmap {
+public:
+    Proefmap();
+    Proefmap(const Proefmap&) = delete;
+    Proefmap(Proefmap&&) = delete;
+    Proefmap& operator=(const Proefmap&) = delete;
+    Proefmap& operator=(Proefmap&&) = delete;
+    ~Proefmap();
+
+    [[nodiscard]] const std::filesystem::path& map() const { return map_; }
+    [[nodiscard]] std::string pad() const { return map_.string(); }
+
+    /// Writes the bytes to a file below the folder; makes the folders on the way.
+    void schrijf(const std::string& naam, std::string_view bytes) const;
+
+    /// Makes a folder, and those on the way.
+    void maakMap(const std::string& naam) const;
+
+    /// Makes a file that is there but that nobody can open, the administrator neither: a symbolic
+    /// link to itself.
+    void maakOnleesbaar(const std::string& naam) const;
+
+    /// Takes a file or a folder with all that is in it away.
+    void verwijder(const std::string& naam) const;
+
+    /// The bytes of all files below the folder, by name.
+    [[nodiscard]] std::map<std::string, std::string> inhoud() const;
+
+private:
+    std::filesystem::path map_;
+};
+
+/// Messages as they were shown.
+struct Meldingen {
+    std::vector<Melding> getoond;
+
+    [[nodiscard]] Melder melder() {
+        return [this](const Melding& melding) { getoond.push_back(melding); };
+    }
+};
+
+/// A competition called "Proef" in a Proefmap: Competities/Proef/Ronde-N/... and
+/// ORVspelers/ORVspelers.txt, with an Algemeen whose folders point there.
+class ProefCompetitie {
+public:
+    /// Writes CompData.txt (R, Z, K = 0) and RondeData.txt (L lines).
+    ProefCompetitie(int ronden, int zittingen, int lijnen);
+
+    /// One member: number and name parts.
+    struct Lid {
+        int nummer;
+        std::string voornaam;
+        std::string tussenvoegsel;
+        std::string achternaam;
+    };
+
+    /// Writes the members file, in the code page, with `aantal` in its header. Names are UTF-8.
+    void schrijfLeden(int aantal, const std::vector<Lid>& leden) const;
+
+    /// Writes a percentage file: the lines as given, each ended with CR LF.
+    void schrijfZitting(int ronde, int zitting, const std::vector<std::string>& regels) const;
+
+    /// A line of a percentage file: pair identifier, members "12-305", percentage (quoted), boards.
+    [[nodiscard]] static std::string regel(const std::string& paar, const std::string& leden,
+                                           const std::string& percentage, int spellen = 24);
+
+    /// Writes CompBums.txt of a round: pairs of members that play it out of competition.
+    void schrijfBums(int ronde, const std::vector<std::pair<int, int>>& paren) const;
+
+    /// Reads competition, rounds, lines and members, as the program's start does.
+    void laad();
+
+    [[nodiscard]] const Proefmap& map() const { return map_; }
+    [[nodiscard]] std::string competitieMap() const { return "Competities/Proef/"; }
+
+    Algemeen algemeen;
+    Meldingen meldingen;
+
+private:
+    Proefmap map_;
+};
+
+} // namespace lauwerkrans::proef

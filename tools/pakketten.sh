@@ -1,0 +1,104 @@
+# shellcheck shell=bash
+# The Debian 12 packages that this project needs, in one place, and what the scripts do alike:
+# installing what is missing, and configuring a preset. Sourced by run.sh, test.sh and .ci/run; it
+# does nothing by itself.
+
+# shellcheck disable=SC2034 # the groups are used by name
+pakketten_bouwen=(
+  g++             # the compiler (12)
+  cmake           # the build (3.25)
+  ninja-build     # runs the build's commands
+  make            # link-time optimisation runs its parts side by side with it
+  qt6-base-dev    # the windows (6.4); brings the libraries and the plugin for X11 with it
+  libgtest-dev    # the tests (GoogleTest)
+  libbenchmark-dev # the benchmarks (Google Benchmark)
+)
+
+# shellcheck disable=SC2034
+pakketten_scherm=(
+  fonts-liberation # the letters of the windows: metric substitutes of the usual Windows fonts
+)
+
+# Only for a desktop that has Wayland and nothing else.
+# shellcheck disable=SC2034
+pakketten_wayland=(
+  qt6-wayland     # Qt's plugin for Wayland
+)
+
+# A screen where there is none: the tour of run.sh, and tests that need a window manager.
+# shellcheck disable=SC2034
+pakketten_beelden=(
+  xvfb            # an X server without hardware
+  openbox         # a window manager, for maximising and for the outer size of a window
+)
+
+# What .ci/run checks beyond the tests.
+# shellcheck disable=SC2034
+pakketten_ci=(
+  git             # says which files are ours
+  clang-14        # the second compiler
+  clang-format-14 # the formatter
+  clang-tidy-14   # the linter
+  shellcheck      # the linter of the scripts
+)
+
+is_geinstalleerd() {
+  dpkg-query --show --showformat='${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
+}
+
+# Runs a command as root: directly, or through sudo when that can ask its question.
+als_root() {
+  if ((EUID == 0)); then
+    "$@"
+  else
+    sudo "$@"
+  fi
+}
+
+mag_root() {
+  ((EUID == 0)) && return 0
+  command -v sudo >/dev/null || return 1
+  sudo --non-interactive true 2>/dev/null || { [[ -t 0 ]] && sudo --validate; }
+}
+
+# installeer GROUP...: installs the missing packages of the groups (bouwen, scherm, ...). Returns 1
+# when that cannot be done; what is missing has then been said.
+installeer() {
+  local groep pakket
+  local -a weg=()
+  for groep in "$@"; do
+    local -n lijst="pakketten_$groep"
+    for pakket in "${lijst[@]}"; do
+      is_geinstalleerd "$pakket" || weg+=("$pakket")
+    done
+  done
+  ((${#weg[@]})) || return 0
+  if ! command -v apt-get >/dev/null || ! mag_root; then
+    {
+      echo "Deze pakketten ontbreken:"
+      printf '  %s\n' "${weg[@]}"
+      echo "Installeer ze als beheerder en probeer het opnieuw:"
+      echo "  apt-get install ${weg[*]}"
+    } >&2
+    return 1
+  fi
+  echo "Ontbrekende pakketten worden geïnstalleerd: ${weg[*]}"
+  local -a apt=(env DEBIAN_FRONTEND=noninteractive apt-get --quiet --yes
+    -o DPkg::Lock::Timeout=120 -o Dpkg::Use-Pty=0)
+  # Without a network an older list may still do.
+  als_root "${apt[@]}" update >/dev/null || echo "De pakketlijst is niet bijgewerkt." >&2
+  if ! als_root "${apt[@]}" install --no-install-recommends "${weg[@]}"; then
+    echo "Het installeren is mislukt. Deze pakketten zijn nodig: ${weg[*]}" >&2
+    return 1
+  fi
+}
+
+# configureer PRESET: also when the checkout has moved, which CMake's cache does not survive.
+configureer() {
+  local cache=build/$1/CMakeCache.txt
+  if [[ -f $cache ]] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "$cache"; then
+    cmake --fresh --preset "$1"
+  else
+    cmake --preset "$1"
+  fi
+}

@@ -1,0 +1,155 @@
+// A short tour of the real windows: starts the main window on a program folder, presses its
+// buttons and keeps a picture of every state. Arguments: the program folder and the folder for the
+// pictures.
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+#include <array>
+
+#include "app/frmMain_start.h"
+#include "tools/generator.h"
+#include "ui/ontwerp.h"
+#include "ui/stijl.h"
+
+namespace {
+
+using namespace lauwerkrans;
+
+/// The main window on one program folder.
+class Rondleiding {
+public:
+    Rondleiding(const QString& programmaMap, const QString& beeldenMap)
+        : beelden_(beeldenMap), venster_(algemeen_, instellingen_, {}) {
+        algemeen_.meld = [this](const Melding& melding) { meldingen_.push_back(melding); };
+        gelukt_ = Form_Load(venster_, algemeen_, instellingen_, programmaMap.toStdString());
+        venster_.show();
+    }
+
+    /// Every state of the window with a competition of three lines.
+    void loopRond() {
+        vulMinima();
+        bewaar("00-start");
+        druk("cmd1_1");
+        bewaar("01-lijn-A");
+        druk("cmd1_0");
+        bewaar("02-alle-lijnen");
+        vink("chkGewogen");
+        vink("chkZitDetails");
+        druk("cmd1_1");
+        bewaar("03-lijn-A-gewogen-details");
+        vink("chkGemAlleLijnen");
+        druk("cmd1_0");
+        bewaar("04-ongeacht-de-lijn-gewogen");
+        druk("cmd2_0");
+        bewaar("05-controle");
+        venster_.raster().AccentueerRegel(0, 5 + 4 * 6 + 1);
+        bewaar("06-controle-gemarkeerde-rij");
+        Vind<QLineEdit>(venster_, "txtPersoon")->setText(QStringLiteral("klaver"));
+        druk("cmdControleLijstLid");
+        bewaar("07-controle-van-een-lid");
+        druk("cmd1_0");
+        venster_.resize(1400, 900);
+        bewaar("08-groot-venster");
+        druk("cmdToelichting");
+        bewaarAndere("frmToelichting", "09-toelichting");
+    }
+
+    void bewaar(const char* naam) { bewaarVenster(venster_, naam); }
+
+    /// Prints the messages that were shown. False when there were others than expected, or when a
+    /// picture could not be written.
+    [[nodiscard]] bool klaar(std::size_t verwachteMeldingen) const {
+        for (const Melding& melding : meldingen_) {
+            QTextStream(stdout) << "melding: " << QString::fromStdString(melding.tekst) << Qt::endl;
+        }
+        return gelukt_ && meldingen_.size() == verwachteMeldingen;
+    }
+
+private:
+    void vulMinima() {
+        constexpr std::array<const char*, 3> minima = {"13", "10", "8"};
+        for (std::size_t i = 0; i < minima.size(); ++i) {
+            venster_.rijen().zetCriterium(i + 1, minima.at(i));
+        }
+    }
+
+    void druk(const char* naam) { Vind<QPushButton>(venster_, naam)->click(); }
+    void vink(const char* naam) { Vind<QCheckBox>(venster_, naam)->click(); }
+
+    void bewaarVenster(QWidget& venster, const char* naam) {
+        QApplication::processEvents();
+        const QString pad = beelden_.filePath(QStringLiteral("%1.png").arg(QLatin1String(naam)));
+        if (venster.grab().save(pad)) return;
+        QTextStream(stderr) << pad << " kan niet worden geschreven." << Qt::endl;
+        gelukt_ = false;
+    }
+
+    void bewaarAndere(const char* venster, const char* naam) {
+        for (QWidget* kandidaat : QApplication::topLevelWidgets()) {
+            if (kandidaat->objectName() == QLatin1String(venster)) bewaarVenster(*kandidaat, naam);
+        }
+    }
+
+    QDir beelden_;
+    Algemeen algemeen_;
+    Instellingen instellingen_;
+    frmMain venster_;
+    std::vector<Melding> meldingen_;
+    bool gelukt_ = true;
+};
+
+/// A program folder of its own beside a Mappen.ini with this text.
+QString ProgrammaMap(const QTemporaryDir& map, const QByteArray& mappenIni) {
+    QFile bestand(map.filePath(QStringLiteral("Mappen.ini")));
+    if (bestand.open(QIODevice::WriteOnly)) bestand.write(mappenIni);
+    return map.filePath(QStringLiteral("Lauwerkrans"));
+}
+
+/// One picture of the window as it starts on a program folder.
+bool ToonStart(const QString& programmaMap, const QString& beelden, const char* naam,
+               std::size_t verwachteMeldingen) {
+    Rondleiding rondleiding(programmaMap, beelden);
+    rondleiding.bewaar(naam);
+    return rondleiding.klaar(verwachteMeldingen);
+}
+
+bool ToonAndereCompetities(const QString& programmaMap, const QString& beelden) {
+    QFile bron(programmaMap + QStringLiteral("/../Mappen.ini"));
+    if (!bron.open(QIODevice::ReadOnly)) return false;
+    QByteArray eenLijn = bron.readAll();
+    eenLijn += "\r\nACTCOM=" + QByteArray(generator::tweedeCompetitie.data()) + "\r\n";
+    const QTemporaryDir leeg;
+    const QTemporaryDir een;
+    const QTemporaryDir veel;
+    generator::Grootte grootte;
+    grootte.lijnen = 26;
+    grootte.parenPerZitting = 52;
+    generator::SchrijfGroot(veel.path().toStdString(), grootte);
+    const QString veelLijnen = veel.filePath(QStringLiteral("Lauwerkrans"));
+    return ToonStart(ProgrammaMap(leeg, "ACTCOM=\r\n"), beelden, "10-geen-competitie", 1) &&
+           ToonStart(ProgrammaMap(een, eenLijn), beelden, "11-een-lijn", 0) &&
+           ToonStart(veelLijnen, beelden, "12-zesentwintig-lijnen", 0);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication toepassing(argc, argv);
+    const QStringList woorden = QApplication::arguments();
+    if (woorden.size() != 3) {
+        QTextStream(stderr) << "gebruik: rondleiding PROGRAMMAMAP BEELDENMAP" << Qt::endl;
+        return 2;
+    }
+    ZetStijl(toepassing);
+    QDir().mkpath(woorden[2]);
+    Rondleiding rondleiding(woorden[1], woorden[2]);
+    rondleiding.loopRond();
+    const bool gelukt = rondleiding.klaar(0);
+    return ToonAndereCompetities(woorden[1], woorden[2]) && gelukt ? 0 : 1;
+}

@@ -1,0 +1,244 @@
+#include "ui/frmMain.h"
+
+#include <QCloseEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPushButton>
+
+#include <array>
+#include <utility>
+
+#include "data/codetabel.h"
+#include "data/fout.h"
+#include "data/modORV_compbums.h"
+#include "data/modORV_rondedata.h"
+#include "data/systeem.h"
+#include "ui/berichten.h"
+#include "ui/frmMain_ontwerp.h"
+#include "ui/maten.h"
+
+namespace lauwerkrans {
+
+namespace {
+
+void Zet(const QWidget& venster, const char* naam, bool ingeschakeld) {
+    Vind<QWidget>(venster, naam)->setEnabled(ingeschakeld);
+}
+
+} // namespace
+
+frmMain::frmMain(Algemeen& algemeen, Instellingen& instellingen, Koppeling koppeling)
+    : algemeen_(algemeen), instellingen_(instellingen), koppeling_(std::move(koppeling)) {
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(QStringLiteral("Bereken de Club- cq Lijnkampioenen van een parencompetitie."));
+    const QSize kleinste = maten::Pixels({0, 0, breedteFrmMain, hoogteFrmMain}).size();
+    resize(kleinste);
+    MaakElementen(*this, OntwerpVanFrmMain());
+    rijen_ = new Criteriarijen(*this);
+    ronden_ = new PaneelP10(*this);
+    ronden_->InitP10();
+    ronden_->ToonP10_leeg();
+    raster_ = new PaneelP20(*this);
+    raster_->InitP20();
+    raster_->ToonP20_leeg();
+    setMinimumSize(kleinste);
+    verbindKnoppen();
+    zetTabvolgorde();
+}
+
+void frmMain::verbindKnoppen() {
+    const auto klik = [this](const char* naam, auto werk) {
+        connect(Vind<QPushButton>(*this, naam), &QPushButton::clicked, this,
+                [this, werk] { bewaak(werk); });
+    };
+    klik("cmdEinde", [this] { close(); });
+    klik("cmdPrinten", [this] { koppeling_.uitvoer(); });
+    klik("cmdControleLijstLid", [this] { cmdControleLijstLid_Click(); });
+    klik("cmdToelichting", [this] { cmdToelichting_Click(); });
+    klik("Command1", [this] { LeesCompBums(algemeen_); });
+    connect(Vind<QLineEdit>(*this, "txtPersoon"), &QLineEdit::returnPressed,
+            Vind<QPushButton>(*this, "cmdControleLijstLid"), &QPushButton::click);
+    connect(Vind<QLineEdit>(*this, "txtKop1"), &QLineEdit::editingFinished, this,
+            &frmMain::neemKopTekstOver);
+    connect(Vind<KopLabel>(*this, "lblResultKop"), &KopLabel::geklikt, raster_,
+            &PaneelP20::verbergMarkering);
+    zetPrintbaar(false);
+    connect(rijen_, &Criteriarijen::bereken, this, &frmMain::cmd1_Click);
+    connect(rijen_, &Criteriarijen::controleer, this, &frmMain::cmd2_Click);
+    connect(rijen_, &Criteriarijen::verlaten, this, &frmMain::txt1_LostFocus);
+}
+
+void frmMain::zetTabvolgorde() {
+    constexpr std::array volgorde = {"chkGewogen",     "chkZitDetails", "chkGemAlleLijnen",
+                                     "chkBuiMed",      "txtPersoon",    "cmdControleLijstLid",
+                                     "txtKop1",        "cmdPrinten",    "P21",
+                                     "cmdToelichting", "cmdEinde"};
+    for (std::size_t i = 1; i < volgorde.size(); ++i) {
+        setTabOrder(Vind<QWidget>(*this, volgorde.at(i - 1)), Vind<QWidget>(*this, volgorde.at(i)));
+    }
+}
+
+void frmMain::bewaak(const std::function<void()>& handeling) {
+    Bewaak(algemeen_.meld, handeling, [this](char lijn) { rijen_->kies(LijnNummer(lijn)); });
+}
+
+void frmMain::HaalCompLijnen_ORV() {
+    algemeen_.LijnTabel = Tabel();
+    lijnenBekend_ = false;
+    try {
+        algemeen_.LijnTabel = LeesLijnTabel(algemeen_.competitie);
+        lijnenBekend_ = true;
+    } catch (const Fout&) {
+        algemeen_.meld({"Fout bij het inlezen van de rondegegevens.\r\n\r\n" +
+                            systeem::Schrijfwijze(RondeDataPad(algemeen_.competitie)),
+                        Icoon::Uitroep});
+    }
+    rijen_->maak(algemeen_.LijnTabel);
+}
+
+void frmMain::Verwijder_LblTxtCmds() { rijen_->Verwijder_LblTxtCmds(); }
+
+void frmMain::Resets() {
+    uitslag_.reset();
+    raster_->ToonP20_leeg();
+}
+
+Opties frmMain::opties() const {
+    Opties opties;
+    opties.gewogen = aangevinkt("chkGewogen");
+    opties.zitDetails = aangevinkt("chkZitDetails");
+    opties.gemAlleLijnen = aangevinkt("chkGemAlleLijnen");
+    opties.buiMed = aangevinkt("chkBuiMed");
+    return opties;
+}
+
+bool frmMain::aangevinkt(const char* naam) const {
+    return Vind<QCheckBox>(*this, naam)->isChecked();
+}
+
+void frmMain::cmd1_Click(std::size_t rij) {
+    const Zandloper zandloper;
+    PersoonFilterAan_ = false;
+    zetUitvoerBijschrift(false);
+    bewaak([this, rij] {
+        auto uitslag = Bereken(algemeen_, LijnenVanRij(algemeen_.LijnTabel, rij),
+                               rijen_->criteria(), opties());
+        Toon_in_P10();
+        Resets();
+        uitslag_ = std::move(uitslag);
+        ToonControle = 0;
+        ToonLvwRes();
+        zetPrintbaar(uitslag_->resultaat.bovengrens > 0);
+    });
+}
+
+void frmMain::cmd2_Click(std::size_t rij) {
+    const Zandloper zandloper;
+    PersoonFilterAan_ = false;
+    zetUitvoerBijschrift(false);
+    zetPrintbaar(false);
+    bewaak([this, rij] { toonControlelijst({LijnenVanRij(algemeen_.LijnTabel, rij), false, {}}); });
+}
+
+void frmMain::toonControlelijst(const Selectie& selectie) {
+    const auto controle = Controleer(algemeen_, selectie);
+    Toon_in_P10();
+    raster_->ToonP20_leeg(); // the last ranking stays behind the list
+    ToonControle = 1;
+    ToonLvwR(controle);
+}
+
+void frmMain::cmdControleLijstLid_Click() {
+    const bool ledenlijst = PersoonFilterAan_;
+    zetUitvoerBijschrift(true);
+    PersoonFilterAan_ = false;
+    const std::string gezocht =
+        Hoofdletters(Vind<QLineEdit>(*this, "txtPersoon")->text().trimmed().toStdString());
+    if (gezocht.empty()) {
+        algemeen_.meld({"U moet eerst een achternaam of een gedeelte van de achternaam intypen!",
+                        Icoon::Uitroep});
+        zetUitvoerBijschrift(false);
+        return;
+    }
+    const Zandloper zandloper;
+    try {
+        toonControlelijst({AlleLijnen(algemeen_.LijnTabel), true, gezocht});
+    } catch (...) { // the list on show stays, and what belongs to it
+        PersoonFilterAan_ = ledenlijst;
+        zetUitvoerBijschrift(ledenlijst);
+        throw;
+    }
+    PersoonFilterAan_ = true;
+    zetPrintbaar(raster_->lijst()->rijen() > 0);
+}
+
+void frmMain::cmdToelichting_Click() {
+    if (!toelichting_) toelichting_ = std::make_unique<frmToelichting>();
+    toelichting_->toonOver(*this);
+}
+
+void frmMain::zetUitvoerBijschrift(bool ledenlijst) {
+    Vind<QPushButton>(*this, "cmdPrinten")
+        ->setText(ledenlijst ? QStringLiteral("Print deze controlelijst")
+                             : QString::fromUtf8(OntwerpVan("cmdPrinten").bijschrift));
+}
+
+void frmMain::ToonLvwRes() {
+    const auto lijst = MaakRanglijst(uitslag_, uitslag_->opties.zitDetails, ToonControle == 1);
+    Vind<KopLabel>(*this, "lblResultKop")->zetBijschrift(QString::fromStdString(lijst->titel()));
+    raster_->toon(lijst);
+}
+
+void frmMain::ToonLvwR(const std::shared_ptr<const Controle>& controle) {
+    const auto lijst = MaakControlelijst(controle);
+    Vind<KopLabel>(*this, "lblResultKop")->zetBijschrift(QString::fromStdString(lijst->titel()));
+    raster_->toon(lijst);
+}
+
+void frmMain::txt1_LostFocus(std::size_t lijn) {
+    const std::string letter(1, LijnLetter(lijn));
+    const std::string tekst = TeHoogTekst(rijen_->criteria().at(lijn - 1), letter);
+    if (tekst.empty()) return;
+    algemeen_.meld({tekst, Icoon::Geen});
+    rijen_->kies(lijn);
+}
+
+void frmMain::zetPrintbaar(bool aan) {
+    printbaar_ = aan;
+    Zet(*this, "cmdPrinten", aan && koppeling_.uitvoer);
+}
+
+void frmMain::toonZonderCompetitie() {
+    for (const char* naam : {"Frame1", "P20", "VScroll20", "HScroll20", "lblResultKop"}) {
+        Vind<QWidget>(*this, naam)->hide();
+    }
+    for (const char* naam : {"Frame2", "Frame3", "Frame4", "Frame5"})
+        Zet(*this, naam, false);
+}
+
+void frmMain::toonCompetitie(const std::string& naam) {
+    Vind<KopLabel>(*this, "Label1")->zetBijschrift(QString::fromStdString(naam));
+    Vind<QListWidget>(*this, "List2")->hide();
+}
+
+void frmMain::Toon_in_P10() { ronden_->Toon_in_P10(algemeen_.rondeInfo); }
+
+void frmMain::resizeEvent(QResizeEvent* gebeurtenis) {
+    QWidget::resizeEvent(gebeurtenis);
+    if (raster_ != nullptr) deelIn();
+}
+
+void frmMain::mousePressEvent(QMouseEvent* gebeurtenis) {
+    QWidget::mousePressEvent(gebeurtenis);
+    if (childAt(gebeurtenis->position().toPoint()) == nullptr) raster_->verbergMarkering();
+}
+
+void frmMain::closeEvent(QCloseEvent* gebeurtenis) {
+    rijen_->zwijg();
+    if (koppeling_.bijEinde) bewaak(koppeling_.bijEinde);
+    if (toelichting_) toelichting_->close();
+    QWidget::closeEvent(gebeurtenis);
+}
+
+} // namespace lauwerkrans

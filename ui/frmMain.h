@@ -1,0 +1,132 @@
+// The main window: it makes the controls of its table, hands their events to the calculation and
+// shows what comes back.
+#pragma once
+
+#include <QCheckBox>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "app/modInstellingen.h"
+#include "calc/lijsten.h"
+#include "calc/overzicht.h"
+#include "data/modAlgemeen.h"
+#include "ui/criteriarijen.h"
+#include "ui/elementen.h"
+#include "ui/frmToelichting.h"
+#include "ui/paneel_P10.h"
+#include "ui/paneel_P20.h"
+
+namespace lauwerkrans {
+
+class frmMain : public QWidget {
+    Q_OBJECT
+public:
+    /// What the window asks of those above it.
+    struct Koppeling {
+        std::function<void()> bijEinde; // saves the settings before the window closes
+        std::function<void()> uitvoer;  // "Uitvoerlijsten ..."; without it the button is disabled
+    };
+
+    frmMain(Algemeen& algemeen, Instellingen& instellingen, Koppeling koppeling);
+
+    /// Builds the criteria rows of the chosen competition from its first round's data. A file that
+    /// cannot be read gives its message and leaves no line but "Alle".
+    void HaalCompLijnen_ORV();
+
+    /// Removes the criteria rows 1 and up.
+    void Verwijder_LblTxtCmds();
+
+    /// Empties results and grid before a new list is shown.
+    void Resets();
+
+    /// Shows the ranking of the last calculation in the grid.
+    void ToonLvwRes();
+
+    /// Shows the score rows of a reading in the grid.
+    void ToonLvwR(const std::shared_ptr<const Controle>& controle);
+
+    /// "Bereken" and "Controle" of a row: 0 is all lines.
+    void cmd1_Click(std::size_t rij);
+    void cmd2_Click(std::size_t rij);
+
+    /// "Controlelijst voor dit lid": the score rows of the pairs with a member whose name holds
+    /// the text of txtPersoon.
+    void cmdControleLijstLid_Click();
+
+    /// "Toelichting": shows the help window.
+    void cmdToelichting_Click();
+
+    /// The message for a minimum above 20 when its box was left.
+    void txt1_LostFocus(std::size_t lijn);
+
+    /// Hides and disables everything that needs a competition.
+    void toonZonderCompetitie();
+
+    /// Shows the name of the chosen competition.
+    void toonCompetitie(const std::string& naam);
+
+    /// Shows the rounds of the chosen competition.
+    void Toon_in_P10();
+
+    [[nodiscard]] Opties opties() const;
+
+    /// Puts stored settings into the controls.
+    void pasToe(const IniWaarden& waarden);
+
+    /// The state of the controls that the settings keep; takes the heading of txtKop1 over.
+    [[nodiscard]] IniStand stand();
+
+    /// Puts the stored heading into txtKop1.
+    void toonKopTekst();
+
+    /// Whether the list on show is a member's control list.
+    [[nodiscard]] bool PersoonFilterAan() const { return PersoonFilterAan_; }
+
+    /// Whether there is something to print: what enables "Uitvoerlijsten ...".
+    [[nodiscard]] bool printbaar() const { return printbaar_; }
+    void zetPrintbaar(bool aan);
+
+    /// The last calculation; none before the first and after emptying.
+    [[nodiscard]] const std::shared_ptr<const Uitslag>& uitslag() const { return uitslag_; }
+    [[nodiscard]] PaneelP20& raster() { return *raster_; }
+    [[nodiscard]] Criteriarijen& rijen() { return *rijen_; }
+
+    /// Runs an event handler: no exception leaves it.
+    void bewaak(const std::function<void()>& handeling);
+
+protected:
+    void resizeEvent(QResizeEvent* gebeurtenis) override;
+    void mousePressEvent(QMouseEvent* gebeurtenis) override;
+    void closeEvent(QCloseEvent* gebeurtenis) override;
+
+private:
+    void verbindKnoppen();
+    void zetTabvolgorde();
+    void deelIn(); // the layout rules
+    void neemKopTekstOver();
+    void toonControlelijst(const Selectie& selectie);
+    void zetUitvoerBijschrift(bool ledenlijst);
+    [[nodiscard]] bool aangevinkt(const char* naam) const;
+
+    Algemeen& algemeen_;
+    Instellingen& instellingen_;
+    Koppeling koppeling_;
+    std::unique_ptr<frmToelichting> toelichting_;
+    Criteriarijen* rijen_ = nullptr;
+    PaneelP10* ronden_ = nullptr;
+    PaneelP20* raster_ = nullptr;
+    std::shared_ptr<const Uitslag> uitslag_;
+    std::int16_t ToonControle = 0; // 0 after "Bereken", 1 after "Controle"
+    bool PersoonFilterAan_ = false;
+    bool lijnenBekend_ = false; // the lines of the competition could be read
+    bool printbaar_ = false;
+};
+
+/// Smallest size of the window's client area, and its size at the start, in twips.
+constexpr double breedteFrmMain = 12915;
+constexpr double hoogteFrmMain = 7200;
+
+} // namespace lauwerkrans

@@ -1,0 +1,59 @@
+#include "ui/frmToelichting.h"
+
+#include <QScrollBar>
+
+#include "ui/maten.h"
+#include "ui/stijl.h"
+#include "ui/toelichting_tekst.h"
+
+namespace lauwerkrans {
+
+namespace {
+
+// Outer sizes in twips; the frame takes 85 and the frame with the caption bar 440 of them.
+constexpr double rand = 85;
+constexpr double randEnBalk = 440;
+constexpr double kleinste = 4000;
+constexpr double beginBreedte = 9600;
+constexpr double beginHoogte = 7640;
+
+QSize Binnen(double breedte, double hoogte) {
+    return maten::Pixels({0, 0, breedte - rand, hoogte - randEnBalk}).size();
+}
+
+} // namespace
+
+frmToelichting::frmToelichting() : Text1(new QPlainTextEdit(this)) {
+    setObjectName(QStringLiteral("frmToelichting"));
+    setWindowTitle(QStringLiteral("Toelichting"));
+    Text1->setObjectName(QStringLiteral("Text1"));
+    Text1->setReadOnly(true);
+    Text1->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    Text1->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    Text1->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    Text1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Text1->setPlainText(ToelichtingTekst());
+    setMinimumSize(Binnen(kleinste, kleinste));
+    resize(Binnen(beginBreedte, beginHoogte));
+}
+
+void frmToelichting::toonOver(const QWidget& venster) {
+    if (!geplaatst_) {
+        QRect vak = rect();
+        vak.moveCenter(venster.frameGeometry().center());
+        move(vak.topLeft());
+        geplaatst_ = true;
+    }
+    show();
+    raise();
+    activateWindow();
+}
+
+void frmToelichting::resizeEvent(QResizeEvent* gebeurtenis) {
+    QWidget::resizeEvent(gebeurtenis);
+    const double breedte = maten::PixelsNaarTwips(width()) + rand;
+    const double hoogte = maten::PixelsNaarTwips(height()) + randEnBalk;
+    maten::Plaats(*Text1, {0, 0, breedte - 120, hoogte - 510});
+}
+
+} // namespace lauwerkrans

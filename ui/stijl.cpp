@@ -1,0 +1,133 @@
+#include "ui/stijl.h"
+
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace lauwerkrans {
+
+namespace {
+
+/// Fusion with the small check boxes that the stated widths count with, and with coloured buttons
+/// in exactly their colour, where Fusion makes a paler shade of it.
+class Stijl : public QProxyStyle {
+public:
+    Stijl() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    [[nodiscard]] int pixelMetric(PixelMetric maat, const QStyleOption* optie,
+                                  const QWidget* element) const override {
+        switch (maat) {
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+            return 13;
+        case PM_CheckBoxLabelSpacing:
+            return 4;
+        case PM_ButtonMargin:
+            return 0;
+        default:
+            return QProxyStyle::pixelMetric(maat, optie, element);
+        }
+    }
+
+    void drawPrimitive(PrimitiveElement deel, const QStyleOption* optie, QPainter* schilder,
+                       const QWidget* element) const override {
+        QProxyStyle::drawPrimitive(deel, optie, schilder, element);
+        const QColor kleur = optie->palette.color(QPalette::Button);
+        if (deel != PE_PanelButtonCommand || kleur == kleuren::venster) return;
+        const bool ingedrukt = (optie->state & (State_Sunken | State_On)) != 0;
+        schilder->save();
+        schilder->setRenderHint(QPainter::Antialiasing);
+        schilder->setPen(Qt::NoPen);
+        schilder->setBrush(ingedrukt ? kleur.darker(115) : kleur);
+        schilder->drawRoundedRect(QRectF(optie->rect).adjusted(1, 1, -1, -1), 1.5, 1.5);
+        schilder->restore();
+    }
+};
+
+QPalette LichtPalet() {
+    QPalette palet;
+    const auto zet = [&palet](QPalette::ColorRole rol, QColor kleur, QColor uit) {
+        palet.setColor(QPalette::All, rol, kleur);
+        palet.setColor(QPalette::Disabled, rol, uit);
+    };
+    zet(QPalette::Window, kleuren::venster, kleuren::venster);
+    zet(QPalette::Base, kleuren::wit, kleuren::venster);
+    zet(QPalette::AlternateBase, kleuren::venster, kleuren::venster);
+    zet(QPalette::Button, kleuren::venster, kleuren::venster);
+    zet(QPalette::WindowText, kleuren::zwart, kleuren::uitgeschakeld);
+    zet(QPalette::Text, kleuren::zwart, kleuren::uitgeschakeld);
+    zet(QPalette::ButtonText, kleuren::zwart, kleuren::uitgeschakeld);
+    zet(QPalette::PlaceholderText, kleuren::uitgeschakeld, kleuren::uitgeschakeld);
+    zet(QPalette::BrightText, kleuren::wit, kleuren::wit);
+    zet(QPalette::ToolTipBase, QColor(255, 255, 225), QColor(255, 255, 225));
+    zet(QPalette::ToolTipText, kleuren::zwart, kleuren::zwart);
+    zet(QPalette::Highlight, QColor(0, 90, 180), kleuren::rand);
+    zet(QPalette::HighlightedText, kleuren::wit, kleuren::wit);
+    zet(QPalette::Light, kleuren::wit, kleuren::wit);
+    zet(QPalette::Midlight, QColor(227, 227, 227), QColor(227, 227, 227));
+    zet(QPalette::Mid, kleuren::actieveRand, kleuren::actieveRand);
+    zet(QPalette::Dark, kleuren::rand, kleuren::rand);
+    zet(QPalette::Shadow, QColor(105, 105, 105), QColor(105, 105, 105));
+    zet(QPalette::Link, kleuren::blauw, kleuren::uitgeschakeld);
+    return palet;
+}
+
+} // namespace
+
+QColor LijnKleur(char letter) {
+    static constexpr std::array<QColor, 8> kleurPerLijn = {
+        kleuren::blauw,      QColor(192, 0, 0),   QColor(0, 110, 0),  QColor(128, 0, 128),
+        QColor(0, 110, 110), QColor(139, 69, 19), QColor(80, 80, 80), QColor(0, 0, 128)};
+    const auto nummer = static_cast<unsigned char>(letter) - static_cast<unsigned char>('A');
+    return kleurPerLijn.at(static_cast<std::size_t>(nummer) % kleurPerLijn.size());
+}
+
+QFont Letters(int pixels, bool vet) {
+    QFont letters;
+    letters.setFamilies({QStringLiteral("Microsoft Sans Serif"), QStringLiteral("Liberation Sans"),
+                         QStringLiteral("Arial")});
+    letters.setPixelSize(pixels);
+    letters.setBold(vet);
+    return letters;
+}
+
+/// The application must be there; what it is given, the toolkit keeps for all of it.
+void ZetStijl(QApplication& /*toepassing*/) {
+    constexpr int gewoon = 11;
+    QApplication::setStyle(new Stijl);
+    QApplication::setPalette(LichtPalet());
+    QApplication::setFont(Letters(gewoon, false));
+}
+
+void TrekLijn(QPainter& schilder, QPointF van, QPointF tot, QColor kleur, double dikte) {
+    const double schaal = schilder.deviceTransform().m11();
+    const double echt = std::max(1.0, std::floor(dikte * schaal)) / schaal;
+    const bool liggend = van.y() == tot.y();
+    const QSizeF maat =
+        liggend ? QSizeF(tot.x() - van.x() + 1, echt) : QSizeF(echt, tot.y() - van.y() + 1);
+    schilder.fillRect(QRectF(van, maat), kleur);
+}
+
+void TrekRand(QPainter& schilder, const QRect& vak, QColor kleur) {
+    TrekLijn(schilder, vak.topLeft(), vak.topRight(), kleur);
+    TrekLijn(schilder, vak.bottomLeft(), vak.bottomRight(), kleur);
+    TrekLijn(schilder, vak.topLeft(), vak.bottomLeft(), kleur);
+    TrekLijn(schilder, vak.topRight(), vak.bottomRight(), kleur);
+}
+
+QPalette MetKleuren(QPalette palet, QPalette::ColorRole vlak, QColor achtergrond,
+                    QPalette::ColorRole tekst, QColor voorgrond) {
+    for (const auto groep : {QPalette::Active, QPalette::Inactive}) {
+        palet.setColor(groep, vlak, achtergrond);
+        palet.setColor(groep, tekst, voorgrond);
+    }
+    palet.setColor(QPalette::Disabled, vlak, kleuren::venster);
+    palet.setColor(QPalette::Disabled, tekst, kleuren::uitgeschakeld);
+    return palet;
+}
+
+} // namespace lauwerkrans

@@ -1,0 +1,193 @@
+#include "ui/tabellijf.h"
+
+#include <QFontMetricsF>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "ui/maten.h"
+#include "ui/stijl.h"
+
+namespace lauwerkrans {
+
+using maten::MmNaarPixels;
+using maten::PixelsNaarMm;
+
+namespace {
+constexpr int knopRanden = 3; // pixels that a header button keeps beside its text
+} // namespace
+
+QPushButton* MaakKopknop(QWidget& strip, const QString& naam, const QString& tekst, double vanMm,
+                         double totMm) {
+    auto* knop = new QPushButton(tekst, &strip);
+    knop->setObjectName(naam);
+    knop->setFocusPolicy(Qt::NoFocus);
+    const auto links = static_cast<int>(std::lround(MmNaarPixels(vanMm)));
+    const auto rechts = static_cast<int>(std::lround(MmNaarPixels(totMm)));
+    knop->setGeometry(links, 0, rechts - links, strip.height());
+    knop->setFont(Versmald(knop->font(), [&](const QFont& letters) {
+        return QFontMetrics(letters).horizontalAdvance(tekst) <= knop->width() - knopRanden;
+    }));
+    knop->show();
+    return knop;
+}
+
+void VerwijderKopknoppen(std::vector<QPushButton*>& knoppen) {
+    while (!knoppen.empty()) {
+        delete knoppen.back();
+        knoppen.pop_back();
+    }
+}
+
+TabelLijf::TabelLijf(QWidget* houder, QColor achtergrond)
+    : QWidget(houder), achtergrond_(achtergrond) {}
+
+double TabelLijf::px(double xMm) const { return MmNaarPixels(xMm + links_); }
+double TabelLijf::py(double yMm) const { return MmNaarPixels(yMm + boven_); }
+
+void TabelLijf::zetLinks(double mm) {
+    links_ = mm;
+    update();
+}
+
+void TabelLijf::zetBoven(double mm) {
+    boven_ = mm;
+    update();
+}
+
+void TabelLijf::zetMaat(double breedteMm, double hoogteMm) {
+    breedte_ = breedteMm;
+    hoogte_ = hoogteMm;
+    update();
+}
+
+void TabelLijf::toon(Tabelbeeld beeld) {
+    beeld_ = std::move(beeld);
+    update();
+}
+
+double TabelLijf::tekstBreedte(const QString& tekst, bool vet) const {
+    QFont letters = font();
+    letters.setBold(vet);
+    return PixelsNaarMm(QFontMetricsF(letters).horizontalAdvance(tekst));
+}
+
+double TabelLijf::tekstHoogte() const { return PixelsNaarMm(QFontMetricsF(font()).height()); }
+
+void TabelLijf::mousePressEvent(QMouseEvent* gebeurtenis) {
+    const QPointF punt = gebeurtenis->position();
+    const double x = PixelsNaarMm(punt.x()) - links_;
+    const double y = PixelsNaarMm(punt.y()) - boven_;
+    if (x < breedte_ && y < hoogte_) emit gedrukt(x, y); // beside it lies the panel
+}
+
+TabelLijf::Bereik TabelLijf::rijenIn(const QRect& vlak) const {
+    const auto rij = [this](int y) {
+        return std::floor((PixelsNaarMm(y) - boven_ - rooster::kopHoogte) / rooster::rijHoogte);
+    };
+    const double van = std::max(rij(vlak.top()), 0.0) + 1;
+    const double tot = std::min(rij(vlak.bottom() + 1) + 1, static_cast<double>(beeld_.rijen));
+    if (tot < van) return {};
+    return {static_cast<std::size_t>(van), static_cast<std::size_t>(tot)};
+}
+
+TabelLijf::Bereik TabelLijf::kolommenIn(const QRect& vlak) const {
+    const auto& x = beeld_.x;
+    const double van = PixelsNaarMm(vlak.left()) - links_;
+    const double tot = PixelsNaarMm(vlak.right() + 1) - links_;
+    const auto eerste = std::upper_bound(x.begin(), x.end(), van) - x.begin();
+    const auto laatste = std::lower_bound(x.begin(), x.end(), tot) - x.begin();
+    const auto kolommen = static_cast<std::ptrdiff_t>(x.size()) - 1;
+    return {static_cast<std::size_t>(std::max<std::ptrdiff_t>(eerste, 1)),
+            static_cast<std::size_t>(std::min(laatste, kolommen))};
+}
+
+void TabelLijf::paintEvent(QPaintEvent* gebeurtenis) {
+    QPainter schilder(this);
+    const QRect vlak = gebeurtenis->rect();
+    const QRectF lijf(px(0), py(0), MmNaarPixels(breedte_), MmNaarPixels(hoogte_));
+    schilder.fillRect(lijf.intersected(QRectF(vlak)), achtergrond_);
+    tekenLijnen(schilder, vlak);
+    tekenCellen(schilder, vlak);
+    tekenStrepen(schilder);
+    if (!beeld_.plaatje.isNull()) tekenPlaatje(schilder);
+}
+
+void TabelLijf::tekenPlaatje(QPainter& schilder) const {
+    constexpr double tussenruimte = 3; // pixels
+    const QSizeF maat = beeld_.plaatje.deviceIndependentSize();
+    const double links = beeld_.x.at(beeld_.plaatjeKolom - 1);
+    const double rechts = beeld_.x.at(beeld_.plaatjeKolom);
+    const double boven = MmNaarPixels(hoogte_) + tussenruimte;
+    if (boven + maat.height() > height()) return;
+    const QPointF plaats(px((links + rechts) / 2) - maat.width() / 2, boven);
+    schilder.drawPixmap(plaats, beeld_.plaatje);
+}
+
+/// The highlight lines, red, two pixels from their y downwards.
+void TabelLijf::tekenStrepen(QPainter& schilder) const {
+    constexpr double dikte = 2;
+    for (const Streep* streep : findChildren<Streep*>(Qt::FindDirectChildrenOnly)) {
+        if (!streep->zichtbaar) continue;
+        const double y = std::round(py(streep->y1));
+        TrekLijn(schilder, {std::round(px(streep->x1)), y}, {std::round(px(streep->x2)), y},
+                 kleuren::rood, dikte);
+    }
+}
+
+void TabelLijf::tekenLijnen(QPainter& schilder, const QRect& vlak) const {
+    const auto lijn = [&](double x1, double y1, double x2, double y2) {
+        TrekLijn(schilder, {std::round(x1), std::round(y1)}, {std::round(x2), std::round(y2)},
+                 beeld_.lijnKleur);
+    };
+    const double tabelBreedte = beeld_.x.size() > 1 ? beeld_.x.back() : breedte_;
+    const double eerste =
+        std::floor((PixelsNaarMm(vlak.top()) - boven_ - rooster::kopHoogte) / rooster::rijHoogte);
+    for (auto k = static_cast<std::size_t>(std::max(eerste, 0.0)); k < beeld_.lijnen; ++k) {
+        const double y = rooster::kopHoogte + rooster::rijHoogte * static_cast<double>(k);
+        if (py(y) > vlak.bottom() + 1) break;
+        lijn(px(rooster::zijMarge), py(y), px(tabelBreedte), py(y));
+    }
+    if (beeld_.x.size() < 2) return;
+    const double onder =
+        rooster::kopHoogte + rooster::rijHoogte * static_cast<double>(beeld_.rijen) + 0.1;
+    const double van = std::max(py(rooster::kopHoogte), static_cast<double>(vlak.top()));
+    const double tot = std::min(py(onder), static_cast<double>(vlak.bottom()) + 1);
+    const Bereik kolommen = kolommenIn(vlak);
+    for (std::size_t i = kolommen.van; i <= kolommen.tot + 1; ++i) {
+        if (van < tot) lijn(px(beeld_.x.at(i - 1)), van, px(beeld_.x[i - 1]), tot);
+    }
+}
+
+void TabelLijf::tekenCellen(QPainter& schilder, const QRect& vlak) const {
+    const Bereik rijen = rijenIn(vlak);
+    const Bereik kolommen = kolommenIn(vlak);
+    for (std::size_t rij = rijen.van; rij <= rijen.tot; ++rij) {
+        for (std::size_t kolom = kolommen.van; kolom <= kolommen.tot; ++kolom) {
+            tekenCel(schilder, rij, kolom);
+        }
+    }
+}
+
+void TabelLijf::tekenCel(QPainter& schilder, std::size_t rij, std::size_t kolom) const {
+    const Celbeeld cel = beeld_.cel(rij, kolom);
+    if (cel.tekst.isEmpty()) return;
+    QFont letters = font();
+    letters.setBold(cel.vet);
+    const QFontMetricsF maat(letters);
+    const double links = beeld_.x[kolom - 1];
+    const double breedte = beeld_.x[kolom] - links;
+    const double x = px(links + (breedte - PixelsNaarMm(maat.horizontalAdvance(cel.tekst))) / 2);
+    const double marge = (rooster::rijHoogte - tekstHoogte()) / 2;
+    const double y =
+        py(rooster::kopHoogte + marge + rooster::rijHoogte * static_cast<double>(rij - 1));
+    schilder.setFont(letters);
+    schilder.setPen(cel.kleur);
+    schilder.drawText(QPointF(x, std::round(y + maat.ascent())), cel.tekst);
+}
+
+} // namespace lauwerkrans
