@@ -27,6 +27,10 @@ struct Leesbuffer {
 /// On an error the earlier file stands as it was and nothing is left beside it.
 [[nodiscard]] std::error_code VervangBestand(const std::string& pad, std::string_view bytes);
 
+/// Makes a folder; one that stands there already is left as it is. The error of the system
+/// otherwise, also when a file of that name stands there.
+[[nodiscard]] std::error_code MaakMap(const std::string& pad);
+
 /// Whether a file stands at exactly this path; a folder is none.
 [[nodiscard]] bool IsBestand(const std::string& pad);
 

@@ -112,6 +112,16 @@ std::error_code VervangBestand(const std::string& pad, std::string_view bytes) {
     return {};
 }
 
+std::error_code MaakMap(const std::string& pad) {
+    constexpr ::mode_t rechten = 0777; // less the user's own mask
+    const std::string doel = Schrijfwijze(pad);
+    if (::mkdir(doel.c_str(), rechten) == 0) return {};
+    const auto fout = LaatsteFout();
+    struct ::stat gegevens {};
+    const bool stondEr = ::stat(doel.c_str(), &gegevens) == 0 && S_ISDIR(gegevens.st_mode);
+    return stondEr ? std::error_code{} : fout;
+}
+
 bool IsBestand(const std::string& pad) {
     struct ::stat gegevens {};
     return ::stat(Schrijfwijze(pad).c_str(), &gegevens) == 0 && !S_ISDIR(gegevens.st_mode);

@@ -17,6 +17,14 @@ std::string WerkelijkDeel(const std::string& map, const std::string& naam) {
     return ZoekNaam(namen, naam).value_or(naam);
 }
 
+[[noreturn]] void Gooi(FoutSoort soort, const std::string& pad, const std::error_code& code) {
+    Fout fout(soort);
+    fout.bestand = pad;
+    fout.reden = Reden(code);
+    fout.code = code;
+    throw fout;
+}
+
 } // namespace
 
 std::string VoegPad(std::string_view map, std::string_view naam) {
@@ -63,21 +71,21 @@ systeem::Leesbuffer LeesTekst(const std::string& pad) {
 }
 
 void GooiNietLeesbaar(const std::string& pad, const std::error_code& code) {
-    Fout fout(FoutSoort::BestandNietLeesbaar);
-    fout.bestand = pad;
-    fout.reden = Reden(code);
-    fout.code = code;
-    throw fout;
+    Gooi(FoutSoort::BestandNietLeesbaar, pad, code);
 }
 
 void VervangTekst(const std::string& pad, std::string_view utf8) {
     const std::error_code code = systeem::VervangBestand(WerkelijkPad(pad), NaarCodetabel(utf8));
-    if (!code) return;
-    Fout fout(FoutSoort::BestandNietSchrijfbaar);
-    fout.bestand = pad;
-    fout.reden = Reden(code);
-    fout.code = code;
-    throw fout;
+    if (code) Gooi(FoutSoort::BestandNietSchrijfbaar, pad, code);
+}
+
+std::string MaakMap(const std::string& pad) {
+    const std::string werkelijk = WerkelijkPad(pad);
+    if (!systeem::MaakMap(werkelijk)) return werkelijk;
+    // What stands there in another letter case may be a file; it need not be in the way.
+    if (const std::error_code code = systeem::MaakMap(pad))
+        Gooi(FoutSoort::BestandNietSchrijfbaar, pad, code);
+    return pad;
 }
 
 std::optional<std::string_view> Regels::volgende() {

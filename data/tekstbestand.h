@@ -39,6 +39,10 @@ namespace lauwerkrans {
 /// Throws Fout (BestandNietSchrijfbaar); the earlier file then stands as it was.
 void VervangTekst(const std::string& pad, std::string_view utf8);
 
+/// Makes a folder unless one of that name stands there, in any letter case. Returns the path that
+/// it really has. Throws Fout (BestandNietSchrijfbaar), also when a file of that name stands there.
+[[nodiscard]] std::string MaakMap(const std::string& pad);
+
 /// Walks through the lines of a text. An end of line at the end of the text starts no further
 /// line.
 class Regels {

@@ -23,12 +23,14 @@ struct Plaats {
 };
 
 /// The first that fits counts, so files come before their folder.
-constexpr std::array<Plaats, 9> plaatsen = {{
+constexpr std::array<Plaats, 11> plaatsen = {{
     {"data/", Laag::Data},
     {"app/modMappen.", Laag::Instellingen},
     {"app/modInstellingen.", Laag::Instellingen},
     {"calc/", Laag::Calc},
+    {"output/uitvoer.", Laag::Lijstbestanden},
     {"output/modMaak", Laag::Lijstbestanden},
+    {"output/lijstblad", Laag::Lijstbestanden},
     {"output/bladindeling", Laag::Lijstbestanden},
     {"ui/", Laag::Vensters},
     {"output/", Laag::Uitvoervensters},
@@ -47,7 +49,7 @@ constexpr std::array<Bronmap, 6> bronmappen = {{
     {"data", true},
     {"app", true},
     {"calc", true},
-    {"output", false},
+    {"output", true},
     {"ui", true},
     {"tools", true},
 }};

@@ -1,7 +1,8 @@
 // The arrows of the house: which source file may include which. A file may include its own layer
 // and those below it:
 //
-//   data/ < app/modMappen, app/modInstellingen < calc/ < output/modMaak*, output/bladindeling*
+//   data/ < app/modMappen, app/modInstellingen < calc/
+//         < output/uitvoer, output/modMaak*, output/bladindeling*, output/lijstblad*
 //         < ui/ < the other files of output/ < the other files of app/
 //
 // The first four make the core, which knows no Qt and, but for data/systeem_posix.cpp and
