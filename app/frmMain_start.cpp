@@ -26,6 +26,13 @@ bool LeesMappen(Algemeen& algemeen, const std::string& programmaMap) {
 
 } // namespace
 
+frmMain::Koppeling MaakKoppeling(const Instellingen& instellingen, Uitvoervensters& uitvoer) {
+    return {[&instellingen](frmMain& venster) { BewaarInstellingen(venster, instellingen); },
+            [&uitvoer](frmMain& venster) { uitvoer.cmdPrinten_Click(venster); },
+            [&uitvoer](frmMain& /*venster*/) { uitvoer.leegLijst(); },
+            [&uitvoer](frmMain& /*venster*/) { uitvoer.sluit(); }};
+}
+
 bool Form_Load(frmMain& venster, Algemeen& algemeen, Instellingen& instellingen,
                const std::string& programmaMap) {
     instellingen.bestand = InstellingenPad(programmaMap);

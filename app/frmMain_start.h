@@ -4,9 +4,14 @@
 #include <string>
 
 #include "app/modMappen.h"
+#include "output/uitvoervensters.h"
 #include "ui/frmMain.h"
 
 namespace lauwerkrans {
+
+/// What the main window asks of the settings and of the output.
+[[nodiscard]] frmMain::Koppeling MaakKoppeling(const Instellingen& instellingen,
+                                               Uitvoervensters& uitvoer);
 
 /// Runs the start-up: reads the settings and Mappen.ini of the program folder and, when a
 /// competition is active, loads it with its members and applies the settings. False when there is

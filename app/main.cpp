@@ -22,18 +22,25 @@ int main(int argc, char** argv) {
     Algemeen algemeen;
     Instellingen instellingen;
     frmMain* hoofdvenster = nullptr;
-    algemeen.meld = [&hoofdvenster](const Melding& melding) { ToonMelding(hoofdvenster, melding); };
+    algemeen.meld = [&hoofdvenster](const Melding& melding) {
+        QWidget* voorop = QApplication::activeWindow();
+        ToonMelding(voorop != nullptr ? voorop : hoofdvenster, melding);
+    };
 
     const systeem::EnigeKopie enigeKopie("lauwerkrans");
     if (!enigeKopie.gelukt()) {
         algemeen.meld({"Het programma is al gestart!...", Icoon::Geen});
         return 0;
     }
-    frmMain venster(algemeen, instellingen,
-                    {[&] { BewaarInstellingen(*hoofdvenster, instellingen); }, {}});
+    const std::string map =
+        QDir::toNativeSeparators(QApplication::applicationDirPath()).toStdString();
+    Uitvoervensters uitvoer(
+        instellingen, {algemeen.meld, map, SysteemPrinters(), [&instellingen](frmMain& venster) {
+                           BewaarInstellingen(venster, instellingen);
+                       }});
+    frmMain venster(algemeen, instellingen, MaakKoppeling(instellingen, uitvoer));
 
-    const QString map = QDir::toNativeSeparators(QApplication::applicationDirPath());
-    if (!Form_Load(venster, algemeen, instellingen, map.toStdString())) return 1;
+    if (!Form_Load(venster, algemeen, instellingen, map)) return 1;
     hoofdvenster = &venster; // until now messages stand in the middle of the screen
     const QRect vrij = venster.screen()->availableGeometry();
     std::optional<KleinScherm> kleinScherm;

@@ -1,5 +1,6 @@
 #include "calc/overzicht.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "calc/modBereken.h"
@@ -26,6 +27,16 @@ std::shared_ptr<const Uitslag> Bereken(Algemeen& algemeen, const std::string& li
     uitslag->resultaat = BerekenKampioenen(lezing.zitRegels, lezing.rondeInfo, criteria, opties);
     NeemOver(algemeen, lezing.rondeInfo, std::move(lezing.BumLijst));
     return uitslag;
+}
+
+bool Geldt(const Uitslag& uitslag, const Criteria& criteria, const Opties& opties) {
+    Opties gelijk = opties;
+    gelijk.zitDetails = uitslag.opties.zitDetails; // takes no part in the calculation
+    return gelijk == uitslag.opties &&
+           std::all_of(uitslag.GekozenLijnen.begin(), uitslag.GekozenLijnen.end(), [&](char lijn) {
+               const std::size_t plaats = LijnNummer(lijn) - 1;
+               return uitslag.criteria.at(plaats) == criteria.at(plaats);
+           });
 }
 
 std::shared_ptr<const Controle> Controleer(Algemeen& algemeen, const Selectie& selectie) {

@@ -20,6 +20,10 @@ struct Uitslag {
     ResultaatTabel resultaat;
 };
 
+/// Whether a calculation with these criteria and options would be made in the same way: the
+/// criteria of its own lines and the options that take part in it are the same.
+[[nodiscard]] bool Geldt(const Uitslag& uitslag, const Criteria& criteria, const Opties& opties);
+
 /// A reading of score rows for checking: what was chosen, and the rows.
 struct Controle {
     Selectie selectie;

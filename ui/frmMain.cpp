@@ -53,7 +53,7 @@ void frmMain::verbindKnoppen() {
                 [this, werk] { bewaak(werk); });
     };
     klik("cmdEinde", [this] { close(); });
-    klik("cmdPrinten", [this] { koppeling_.uitvoer(); });
+    klik("cmdPrinten", [this] { koppeling_.uitvoer(*this); });
     klik("cmdControleLijstLid", [this] { cmdControleLijstLid_Click(); });
     klik("cmdToelichting", [this] { cmdToelichting_Click(); });
     klik("Command1", [this] { LeesCompBums(algemeen_); });
@@ -102,6 +102,7 @@ void frmMain::Verwijder_LblTxtCmds() { rijen_->Verwijder_LblTxtCmds(); }
 void frmMain::Resets() {
     uitslag_.reset();
     raster_->ToonP20_leeg();
+    if (!PersoonFilterAan_ && !opties().gemAlleLijnen) koppeling_.leegLijst(*this);
 }
 
 Opties frmMain::opties() const {
@@ -121,16 +122,23 @@ void frmMain::cmd1_Click(std::size_t rij) {
     const Zandloper zandloper;
     PersoonFilterAan_ = false;
     zetUitvoerBijschrift(false);
-    bewaak([this, rij] {
-        auto uitslag = Bereken(algemeen_, LijnenVanRij(algemeen_.LijnTabel, rij),
-                               rijen_->criteria(), opties());
-        Toon_in_P10();
-        Resets();
-        uitslag_ = std::move(uitslag);
-        ToonControle = 0;
-        ToonLvwRes();
-        zetPrintbaar(uitslag_->resultaat.bovengrens > 0);
-    });
+    bewaak([this, rij] { bereken(LijnenVanRij(algemeen_.LijnTabel, rij)); });
+}
+
+void frmMain::bereken(const std::string& lijnen) {
+    auto uitslag = Bereken(algemeen_, lijnen, rijen_->criteria(), opties());
+    Toon_in_P10();
+    Resets();
+    uitslag_ = std::move(uitslag);
+    ToonControle = 0;
+    ToonLvwRes();
+    zetPrintbaar(uitslag_->resultaat.bovengrens > 0);
+}
+
+void frmMain::berekenZoNodig() {
+    if (!uitslag_ || Geldt(*uitslag_, rijen_->criteria(), opties())) return;
+    const Zandloper zandloper;
+    bereken(std::string(uitslag_->GekozenLijnen)); // a copy: the calculation replaces its owner
 }
 
 void frmMain::cmd2_Click(std::size_t rij) {
@@ -173,6 +181,11 @@ void frmMain::cmdControleLijstLid_Click() {
     zetPrintbaar(raster_->lijst()->rijen() > 0);
 }
 
+void frmMain::ledenlijstKlaar() {
+    PersoonFilterAan_ = false;
+    zetUitvoerBijschrift(false);
+}
+
 void frmMain::cmdToelichting_Click() {
     if (!toelichting_) toelichting_ = std::make_unique<frmToelichting>();
     toelichting_->toonOver(*this);
@@ -204,10 +217,9 @@ void frmMain::txt1_LostFocus(std::size_t lijn) {
     rijen_->kies(lijn);
 }
 
-void frmMain::zetPrintbaar(bool aan) {
-    printbaar_ = aan;
-    Zet(*this, "cmdPrinten", aan && koppeling_.uitvoer);
-}
+void frmMain::zetPrintbaar(bool aan) { Zet(*this, "cmdPrinten", aan); }
+
+bool frmMain::printbaar() const { return Vind<QWidget>(*this, "cmdPrinten")->isEnabled(); }
 
 void frmMain::toonZonderCompetitie() {
     for (const char* naam : {"Frame1", "P20", "VScroll20", "HScroll20", "lblResultKop"}) {
@@ -236,8 +248,9 @@ void frmMain::mousePressEvent(QMouseEvent* gebeurtenis) {
 
 void frmMain::closeEvent(QCloseEvent* gebeurtenis) {
     rijen_->zwijg();
-    if (koppeling_.bijEinde) bewaak(koppeling_.bijEinde);
+    bewaak([this] { koppeling_.bijEinde(*this); });
     if (toelichting_) toelichting_->close();
+    koppeling_.sluitUitvoer(*this);
     QWidget::closeEvent(gebeurtenis);
 }
 

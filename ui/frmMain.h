@@ -26,8 +26,11 @@ class frmMain : public QWidget {
 public:
     /// What the window asks of those above it.
     struct Koppeling {
-        std::function<void()> bijEinde; // saves the settings before the window closes
-        std::function<void()> uitvoer;  // "Uitvoerlijsten ..."; without it the button is disabled
+        using Werk = std::function<void(frmMain&)>;
+        Werk bijEinde = [](frmMain&) {};     // saves the settings before the window closes
+        Werk uitvoer = [](frmMain&) {};      // "Uitvoerlijsten ..."
+        Werk leegLijst = [](frmMain&) {};    // empties the list in the preview
+        Werk sluitUitvoer = [](frmMain&) {}; // closes the previews
     };
 
     frmMain(Algemeen& algemeen, Instellingen& instellingen, Koppeling koppeling);
@@ -56,6 +59,14 @@ public:
     /// the text of txtPersoon.
     void cmdControleLijstLid_Click();
 
+    /// Whether the last calculation still is what the window says: its criteria and options. If
+    /// not, calculates the same lines anew, as "Bereken" does. Throws Fout.
+    void berekenZoNodig();
+
+    /// The member's control list has been printed or not: from now on the output button opens a
+    /// preview again.
+    void ledenlijstKlaar();
+
     /// "Toelichting": shows the help window.
     void cmdToelichting_Click();
 
@@ -79,6 +90,9 @@ public:
     /// The state of the controls that the settings keep; takes the heading of txtKop1 over.
     [[nodiscard]] IniStand stand();
 
+    /// Takes the heading of txtKop1 over into the settings.
+    void neemKopTekstOver();
+
     /// Puts the stored heading into txtKop1.
     void toonKopTekst();
 
@@ -86,7 +100,7 @@ public:
     [[nodiscard]] bool PersoonFilterAan() const { return PersoonFilterAan_; }
 
     /// Whether there is something to print: what enables "Uitvoerlijsten ...".
-    [[nodiscard]] bool printbaar() const { return printbaar_; }
+    [[nodiscard]] bool printbaar() const;
     void zetPrintbaar(bool aan);
 
     /// The last calculation; none before the first and after emptying.
@@ -106,7 +120,7 @@ private:
     void verbindKnoppen();
     void zetTabvolgorde();
     void deelIn(); // the layout rules
-    void neemKopTekstOver();
+    void bereken(const std::string& lijnen);
     void toonControlelijst(const Selectie& selectie);
     void zetUitvoerBijschrift(bool ledenlijst);
     [[nodiscard]] bool aangevinkt(const char* naam) const;
@@ -122,7 +136,6 @@ private:
     std::int16_t ToonControle = 0; // 0 after "Bereken", 1 after "Controle"
     bool PersoonFilterAan_ = false;
     bool lijnenBekend_ = false; // the lines of the competition could be read
-    bool printbaar_ = false;
 };
 
 /// Smallest size of the window's client area, and its size at the start, in twips.

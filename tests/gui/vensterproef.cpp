@@ -1,17 +1,42 @@
 #include "vensterproef.h"
 
+#include <QApplication>
+
 namespace lauwerkrans::proef {
 
+Printomgeving Printproef::omgeving() {
+    return {[this] { return heeftPrinter; },
+            [this](QPrinter& printer, QWidget*) { return kiesPrinter(printer); },
+            [this](const QString& naam, QWidget*) {
+                gevraagd.push_back(naam);
+                return pdf;
+            }};
+}
+
 Vensterproef::Vensterproef(int ronden, int zittingen, int lijnen)
-    : competitie(ronden, zittingen, lijnen) {
+    : competitie(ronden, zittingen, lijnen),
+      uitvoer(instellingen, {competitie.algemeen.meld, competitie.map().pad() + "/Lauwerkrans",
+                             printers.omgeving(), [this](frmMain& hoofdvenster) {
+                                 BewaarInstellingen(hoofdvenster, instellingen);
+                             }}) {
     std::filesystem::create_directory(competitie.map().map() / "Lauwerkrans");
-    venster =
-        std::make_unique<frmMain>(competitie.algemeen, instellingen,
-                                  frmMain::Koppeling{[this] {
-                                                         ++einde;
-                                                         BewaarInstellingen(*venster, instellingen);
-                                                     },
-                                                     {}});
+    auto koppeling = MaakKoppeling(instellingen, uitvoer);
+    koppeling.bijEinde = [this, bewaar = koppeling.bijEinde](frmMain& hoofdvenster) {
+        ++einde;
+        bewaar(hoofdvenster);
+    };
+    venster = std::make_unique<frmMain>(competitie.algemeen, instellingen, std::move(koppeling));
+}
+
+Printvenster* Vensterproef::voorbeeld(const char* naam) const {
+    for (QWidget* kandidaat : QApplication::topLevelWidgets()) {
+        auto* gevonden = qobject_cast<Printvenster*>(kandidaat);
+        if (gevonden != nullptr && gevonden->isVisible() &&
+            gevonden->objectName() == QLatin1String(naam)) {
+            return gevonden;
+        }
+    }
+    return nullptr;
 }
 
 void Vensterproef::start() {

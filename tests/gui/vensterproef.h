@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,6 +17,17 @@
 #include "ui/ontwerp.h"
 
 namespace lauwerkrans::proef {
+
+/// Answers for the system's printers and dialogs.
+struct Printproef {
+    bool heeftPrinter = false;
+    /// The print dialog: changes the printer as a user would; false cancels.
+    std::function<bool(QPrinter&)> kiesPrinter = [](QPrinter&) { return false; };
+    QString pdf;                   // the answer of the save dialog; empty cancels
+    std::vector<QString> gevraagd; // the names that the save dialog was asked with
+
+    [[nodiscard]] Printomgeving omgeving();
+};
 
 class Vensterproef {
 public:
@@ -35,6 +47,9 @@ public:
         return venster->findChild<QWidget*>(QString::fromLatin1(naam)) != nullptr;
     }
 
+    /// The preview of this name that is on show, or nullptr.
+    [[nodiscard]] Printvenster* voorbeeld(const char* naam) const;
+
     /// Presses a button with the mouse.
     void klik(const char* naam) const;
     /// Types into a box after clicking it.
@@ -48,6 +63,8 @@ public:
 
     ProefCompetitie competitie;
     Instellingen instellingen;
+    Printproef printers;
+    Uitvoervensters uitvoer;
     bool gestart = false;
     std::unique_ptr<frmMain> venster;
     int einde = 0; // how often the program was left

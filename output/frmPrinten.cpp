@@ -1,0 +1,93 @@
+#include "output/frmPrinten.h"
+
+#include <QLineEdit>
+#include <QRegularExpressionValidator>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "output/bladindeling_lijnen.h"
+#include "output/modMaakCSV.h"
+
+namespace lauwerkrans {
+
+namespace {
+
+// Places are left, top, width, height in twips; those of the picture and its scroll bars follow the
+// window's size.
+const std::array tabel = std::to_array<Ontwerp>({
+    {Soort::Kader, "frameAfdrukv", "", {120, 120, 2400, 1680}, "Afrdukvoorbeeld"},
+    {Soort::SchuifHorizontaal, "Bladscroll", "frameAfdrukv", {120, 360, 2160, 255}},
+    {Soort::Label, "Label1", "frameAfdrukv", {120, 780, 840, 255}, "Pagina:"},
+    {Soort::Tekstvak, "txtBlad", "frameAfdrukv", {1080, 735, 1200, 315}, "", Midden},
+    {Soort::Tekstvak, "txtAantPages", "frameAfdrukv", {120, 1200, 2160, 315}, "Aantal ...", Midden},
+    {Soort::Kader, "framePrint", "", {120, 1920, 2400, 1440}, "Printen"},
+    {Soort::Knop, "cmdPrinten", "framePrint", {240, 360, 1920, 375}, "Print"},
+    {Soort::Knop, "cmdEinde", "framePrint", {240, 870, 1920, 375}, "Terug"},
+    {Soort::Knop, "cmdMaakCSV", "", {120, 3600, 2400, 375}, "MaakCSV"},
+    {Soort::Knop, "cmdMaakHtml", "", {120, 4110, 2400, 375}, "MaakHTML"},
+    {Soort::Paneel, "picP0", "", {2640, 120, 9925, 8090}, "", Gewoon, Vlak::ActieveRand},
+    {Soort::SchuifVerticaal, "VScroll1", "", {12565, 120, 255, 8090}},
+    {Soort::SchuifHorizontaal, "HScroll1", "", {2640, 8210, 9925, 255}},
+});
+
+} // namespace
+
+frmPrinten::frmPrinten(Printomgeving omgeving)
+    : Printvenster("frmPrinten", tabel, std::move(omgeving)) {
+    auto* Bladscroll = Vind<QScrollBar>(*this, "Bladscroll");
+    Bladscroll->setFocusPolicy(Qt::StrongFocus);
+    Bladscroll->setRange(1, 1);
+    connect(Bladscroll, &QScrollBar::valueChanged, this, &frmPrinten::toonBlad);
+    auto* txtBlad = Vind<QLineEdit>(*this, "txtBlad");
+    txtBlad->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,9}")), txtBlad));
+    connect(txtBlad, &QLineEdit::editingFinished, this, &frmPrinten::neemBladOver);
+    auto* txtAantPages = Vind<QLineEdit>(*this, "txtAantPages");
+    txtAantPages->setReadOnly(true);
+    txtAantPages->setFocusPolicy(Qt::NoFocus);
+}
+
+void frmPrinten::pagineer() {
+    bladen_ = bladen(bladmaat::a4Hoogte);
+    const std::size_t aantal = bladen_->aantal();
+    const auto hoogste = static_cast<int>(std::min(aantal, meesteBladen));
+    auto* Bladscroll = Vind<QScrollBar>(*this, "Bladscroll");
+    Bladscroll->setRange(1, hoogste);
+    Bladscroll->setEnabled(hoogste > 1);
+    if (aantal > meesteBladen) lijst().meld({TeVeelBladenTekst(), Icoon::Uitroep});
+    Vind<QLineEdit>(*this, "txtAantPages")->setText(QStringLiteral("(Totaal %1)").arg(aantal));
+    Bladscroll->setValue(1);
+    toonBlad();
+}
+
+std::size_t frmPrinten::bladnummer() const {
+    return static_cast<std::size_t>(Vind<QScrollBar>(*this, "Bladscroll")->value());
+}
+
+void frmPrinten::toonBlad() {
+    Vind<QLineEdit>(*this, "txtBlad")->setText(QString::number(bladnummer()));
+    beeld().toon(bladen_, bladnummer());
+}
+
+void frmPrinten::neemBladOver() {
+    const int gevraagd = Vind<QLineEdit>(*this, "txtBlad")->text().toInt();
+    Vind<QScrollBar>(*this, "Bladscroll")->setValue(gevraagd); // within its range
+    toonBlad();
+}
+
+void frmPrinten::leeg() {
+    lijst().uitslag.reset();
+    pagineer();
+}
+
+std::unique_ptr<Bladen> frmPrinten::bladen(double hoogte) const {
+    return std::make_unique<BladenLijnen>(uitvoer(), hoogte);
+}
+
+void frmPrinten::maakCSV() { MaakCSV_Lijnen(lijst()); }
+
+void frmPrinten::naPrinten() { Vind<QScrollBar>(*this, "Bladscroll")->setValue(1); }
+
+} // namespace lauwerkrans

@@ -1,0 +1,103 @@
+#include "output/printvenster.h"
+
+#include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
+#include <utility>
+
+#include "output/modMaakHtml.h"
+#include "ui/berichten.h"
+#include "ui/maten.h"
+
+namespace lauwerkrans {
+
+namespace {
+
+// Sizes in twips; the frame takes 85 and the frame with the caption bar 440 of the outer ones.
+constexpr double beginBreedte = 13000 - 85;
+constexpr double beginHoogte = 9000 - 440;
+constexpr double kleinsteBreedte = 6000;
+constexpr double kleinsteHoogte = 5000;
+constexpr double marge = 350; // right of and below the picture: a scroll bar and some room
+constexpr double schuifDikte = 255;
+
+QSize Binnen(double breedte, double hoogte) {
+    return maten::Pixels({0, 0, breedte, hoogte}).size();
+}
+
+} // namespace
+
+Printvenster::Printvenster(const char* naam, std::span<const Ontwerp> ontwerp,
+                           Printomgeving omgeving)
+    : omgeving_(std::move(omgeving)) {
+    setObjectName(QString::fromLatin1(naam));
+    setWindowTitle(QStringLiteral("Zittinguitslag"));
+    MaakElementen(*this, ontwerp);
+    voorbeeld_ = new Voorbeeld(*this);
+    setMinimumSize(Binnen(kleinsteBreedte, kleinsteHoogte));
+    resize(Binnen(beginBreedte, beginHoogte));
+    verbind("cmdMaakCSV", [this] { maakCSV(); });
+    verbind("cmdMaakHtml", [this] { MaakHtml(uitvoer_); });
+    verbind("cmdPrinten", [this] { cmdPrinten_Click(); });
+    verbind("cmdEinde", [this] { close(); });
+}
+
+void Printvenster::verbind(const char* knop, std::function<void()> werk) {
+    connect(Vind<QPushButton>(*this, knop), &QPushButton::clicked, this,
+            [this, werk = std::move(werk)] { Bewaak(uitvoer_.meld, werk); });
+}
+
+void Printvenster::vul(const Uitvoer& uitvoer) {
+    uitvoer_ = uitvoer;
+    pagineer();
+}
+
+void Printvenster::toonOver(const QWidget& venster) {
+    if (!geplaatst_) {
+        const QRect vrij = venster.screen()->availableGeometry();
+        const QSize buiten = maten::Buitenmaat(size());
+        const QSize kader = buiten - size();
+        resize(buiten.boundedTo(vrij.size()) - kader);
+        QRect vak(QPoint(), buiten.boundedTo(vrij.size()));
+        vak.moveCenter(venster.frameGeometry().center());
+        move(std::clamp(vak.left(), vrij.left(), std::max(vrij.left(), vrij.right() - vak.width())),
+             std::clamp(vak.top(), vrij.top(), std::max(vrij.top(), vrij.bottom() - vak.height())));
+        geplaatst_ = true;
+    }
+    show();
+    raise();
+    activateWindow();
+}
+
+void Printvenster::cmdPrinten_Click() {
+    uitvoer_.fout = 0;
+    if (bladen(bladmaat::a4Hoogte)->aantal() > meesteBladen) {
+        uitvoer_.meld({TeVeelBladenTekst(), Icoon::Uitroep});
+    }
+    const Printopdracht opdracht{QString::fromStdString(Uitvoernaam(uitvoer_, "")),
+                                 [this](double hoogte) { return bladen(hoogte); }, meesteBladen};
+    const Printeinde einde = DrukAf(opdracht, omgeving_, this, uitvoer_.meld);
+    if (einde == Printeinde::Gedrukt) {
+        naPrinten();
+    } else {
+        uitvoer_.fout = 1;
+    }
+}
+
+void Printvenster::resizeEvent(QResizeEvent* gebeurtenis) {
+    QWidget::resizeEvent(gebeurtenis);
+    if (voorbeeld_ == nullptr) return;
+    auto* picP0 = Vind<QWidget>(*this, "picP0");
+    Vak vak = maten::PlaatsVan(*picP0);
+    vak.breedte = maten::PixelsNaarTwips(width()) - vak.links - marge;
+    vak.hoogte = maten::PixelsNaarTwips(height()) - vak.boven - marge;
+    maten::Plaats(*picP0, vak);
+    maten::Plaats(*Vind<QWidget>(*this, "VScroll1"),
+                  {vak.links + vak.breedte, vak.boven, schuifDikte, vak.hoogte});
+    maten::Plaats(*Vind<QWidget>(*this, "HScroll1"),
+                  {vak.links, vak.boven + vak.hoogte, vak.breedte, schuifDikte});
+    voorbeeld_->pasAan();
+}
+
+} // namespace lauwerkrans

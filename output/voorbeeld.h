@@ -1,0 +1,80 @@
+// The picture of a page in a preview: box, page, shadow and scroll bars, at four sizes.
+#pragma once
+
+#include <QObject>
+#include <QScrollBar>
+#include <QWidget>
+
+#include <memory>
+
+#include "output/bladindeling.h"
+
+namespace lauwerkrans {
+
+/// The sizes in the order of the clicks on the page.
+enum class Vergroting { HeelBlad, BladBreedte, Honderd, HonderdVijftig };
+
+/// The page itself.
+class BladVlak : public QWidget {
+    Q_OBJECT
+public:
+    explicit BladVlak(QWidget* picP0);
+
+    void toon(std::shared_ptr<const Bladen> bladen, std::size_t nummer);
+    /// Gives the page its size: so many pixels to a millimetre.
+    void zetSchaal(double schaal);
+    [[nodiscard]] double schaal() const { return schaal_; }
+
+signals:
+    void geklikt();
+
+protected:
+    void paintEvent(QPaintEvent* gebeurtenis) override;
+    void mousePressEvent(QMouseEvent* gebeurtenis) override;
+    void keyPressEvent(QKeyEvent* gebeurtenis) override;
+    void focusInEvent(QFocusEvent* gebeurtenis) override;
+    void focusOutEvent(QFocusEvent* gebeurtenis) override;
+
+private:
+    std::shared_ptr<const Bladen> bladen_;
+    std::size_t nummer_ = 1;
+    double schaal_ = 1;
+};
+
+/// Lays the page out in its box and scrolls it. The controls picP0, VScroll1 and HScroll1 are the
+/// window's; the page `P1` and its shadow `P9` are made in picP0.
+class Voorbeeld : public QObject {
+    Q_OBJECT
+public:
+    explicit Voorbeeld(QWidget& venster);
+
+    /// Shows a page; at its upper left corner when it is another than before.
+    void toon(std::shared_ptr<const Bladen> bladen, std::size_t nummer);
+
+    /// Fits the page to its box again.
+    void pasAan();
+
+    [[nodiscard]] Vergroting vergroting() const { return vergroting_; }
+    /// Pixels per millimetre.
+    [[nodiscard]] double schaal() const { return P1_->schaal(); }
+
+protected:
+    bool eventFilter(QObject* object, QEvent* gebeurtenis) override;
+
+private:
+    void vergroot();
+    void schuif();
+    [[nodiscard]] bool toets(int toets);
+    [[nodiscard]] double gewensteSchaal() const;
+
+    QWidget* picP0_;
+    QWidget* P9_;
+    BladVlak* P1_;
+    QScrollBar* VScroll1_;
+    QScrollBar* HScroll1_;
+    std::shared_ptr<const Bladen> bladen_;
+    std::size_t nummer_ = 1;
+    Vergroting vergroting_ = Vergroting::HeelBlad;
+};
+
+} // namespace lauwerkrans
