@@ -80,7 +80,7 @@ void VervangTekst(const std::string& pad, std::string_view utf8) {
 }
 
 std::string MaakMap(const std::string& pad) {
-    const std::string werkelijk = WerkelijkPad(pad);
+    std::string werkelijk = WerkelijkPad(pad);
     if (!systeem::MaakMap(werkelijk)) return werkelijk;
     // What stands there in another letter case may be a file; it need not be in the way.
     if (const std::error_code code = systeem::MaakMap(pad))

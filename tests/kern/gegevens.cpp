@@ -92,7 +92,7 @@ std::vector<Gegevens> AlleGegevens() {
     return alle;
 }
 
-Uitvoer MaakUitvoer(const Gegevens& gegevens) {
+Programmauitvoer MaakUitvoer(const Gegevens& gegevens) {
     const Proefmap programma;
     const std::string map = gegevens.map.string();
     programma.schrijf("Mappen.ini", "ORVMAP=" + map + "\r\nCOMMAP=" + map +
@@ -101,7 +101,7 @@ Uitvoer MaakUitvoer(const Gegevens& gegevens) {
     woorden.insert(woorden.end(), gegevens.woorden.begin(), gegevens.woorden.end());
     std::ostringstream lijst;
     std::ostringstream meldingen;
-    Uitvoer uitvoer;
+    Programmauitvoer uitvoer;
     uitvoer.uitgang = lijst::Voer(woorden, lijst, meldingen);
     uitvoer.lijst = lijst.str();
     uitvoer.meldingen = meldingen.str();

@@ -29,14 +29,14 @@ void PrintTo(const Gegevens& gegevens, std::ostream* uit);
 [[nodiscard]] std::vector<Gegevens> AlleGegevens();
 
 /// What the program printed, and its exit status.
-struct Uitvoer {
+struct Programmauitvoer {
     std::string lijst;
     std::string meldingen; // <map> for the folder
     int uitgang = 0;
 };
 
 /// Makes a list in this process, from a Mappen.ini of its own that points to the folder.
-[[nodiscard]] Uitvoer MaakUitvoer(const Gegevens& gegevens);
+[[nodiscard]] Programmauitvoer MaakUitvoer(const Gegevens& gegevens);
 
 /// The bytes of a file of the case; empty when there is none.
 [[nodiscard]] std::string Inhoud(const std::filesystem::path& pad);

@@ -60,6 +60,10 @@ TEST(Pijlen, GoByTheFileAndNotByItsFolder) {
     EXPECT_EQ(Naar("ui/x.cpp", "output/bladindeling.h"), "");
     EXPECT_NE(Naar("ui/x.cpp", "output/frmPrinten.h"), "");
     EXPECT_NE(Naar("output/modMaakCSV.cpp", "output/frmPrinten.h"), "");
+    EXPECT_EQ(Naar("output/uitvoer.cpp", "app/modInstellingen.h"), "");
+    EXPECT_NE(Naar("output/uitvoer.cpp", "output/afdruk.h"), "");
+    EXPECT_NE(Naar("output/uitvoer.cpp", "output/uitvoervenster.h"), "");
+    EXPECT_EQ(Naar("ui/x.cpp", "output/uitvoer.h"), "");
     EXPECT_NE(Naar("output/bladindeling.cpp", "ui/maten.h"), "");
     EXPECT_NE(Naar("data/x.cpp", "app/modMappen.h"), "");
 }

@@ -71,6 +71,24 @@ TEST(VervangBestand, AKillAtAnyMomentLeavesTheOldFileOrTheNewOne) {
     }
 }
 
+TEST(MaakMap, MakesAFolderAndLeavesOneThatIsThere) {
+    const proef::Proefmap map;
+    EXPECT_FALSE(systeem::MaakMap(map.pad() + "\\nieuw"));
+    EXPECT_TRUE(std::filesystem::is_directory(map.map() / "nieuw"));
+    map.schrijf("nieuw/x.txt", "x");
+    EXPECT_FALSE(systeem::MaakMap(map.pad() + "\\nieuw"));
+    EXPECT_EQ(Inhoud(map.map() / "nieuw/x.txt"), "x");
+}
+
+TEST(MaakMap, FailsWhereAFileStandsOrNoFolderAbove) {
+    const proef::Proefmap map;
+    map.schrijf("bestand", "x");
+    EXPECT_EQ(systeem::MaakMap(map.pad() + "\\bestand"), std::errc::file_exists);
+    EXPECT_EQ(systeem::MaakMap(map.pad() + "\\bestand\\map"), std::errc::not_a_directory);
+    EXPECT_EQ(systeem::MaakMap(map.pad() + "\\geen\\map"), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(Inhoud(map.map() / "bestand"), "x");
+}
+
 /// A name of this test process alone.
 std::string Naam() { return "lauwerkrans-proef-" + std::to_string(::getpid()); }
 

@@ -224,6 +224,28 @@ TEST(Tekstbestand, AFolderOfThatNameCountsAsMissing) {
     EXPECT_EQ(fout.code, std::errc::no_such_file_or_directory);
 }
 
+TEST(MaakMap, ReturnsThePathThatTheFolderReallyHas) {
+    const proef::Proefmap map;
+    EXPECT_EQ(MaakMap(map.pad() + "\\Lijsten"), map.pad() + "\\Lijsten");
+    EXPECT_EQ(MaakMap(map.pad() + "\\LIJSTEN"),
+              map.pad() + (systeem::LetterkastTeltNiet() ? "\\LIJSTEN" : "\\Lijsten"));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(map.map()), {}), 1);
+}
+
+TEST(MaakMap, ThatFailsNamesTheFolderAndTheReason) {
+    const proef::Proefmap map;
+    map.schrijf("Lijsten", "een bestand");
+    try {
+        static_cast<void>(MaakMap(map.pad() + "\\Lijsten"));
+        FAIL() << "made over a file";
+    } catch (const Fout& fout) {
+        EXPECT_EQ(fout.soort, FoutSoort::BestandNietSchrijfbaar);
+        EXPECT_EQ(fout.bestand, map.pad() + "\\Lijsten");
+        EXPECT_EQ(fout.code, std::errc::file_exists);
+        EXPECT_NE(fout.reden, "");
+    }
+}
+
 TEST(Systeem, TellsFilesFromFolders) {
     const proef::Proefmap map;
     map.schrijf("map/x.txt", "");
