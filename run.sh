@@ -9,7 +9,7 @@ source tools/pakketten.sh
 
 release=$PWD/build/release
 demo=$PWD/build/demo
-programma=$demo/Lauwerkrans/Lauwerkrans
+programma=$demo/Lauwerkrans/Lauwerkrans.bin
 
 heeft_scherm() { [[ -n ${DISPLAY:-} || -n ${WAYLAND_DISPLAY:-} ]]; }
 
@@ -38,9 +38,9 @@ leg_demo_neer() {
     "$generator" demo "$demo"
     printf '%s\n' "$merk" >"$demo.merk"
   fi
-  if [[ ! -f $programma || $release/Lauwerkrans/Lauwerkrans -nt $programma ]]; then
+  if [[ ! -f $programma || $release/Lauwerkrans/Lauwerkrans.bin -nt $programma ]]; then
     mkdir -p "$demo/Lauwerkrans"
-    cp "$release/Lauwerkrans/Lauwerkrans" "$programma.nieuw"
+    cp "$release/Lauwerkrans/Lauwerkrans.bin" "$programma.nieuw"
     mv -f "$programma.nieuw" "$programma" # also while the old one runs
   fi
 }

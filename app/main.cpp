@@ -12,11 +12,13 @@
 #include "ui/maten.h"
 #include "ui/pictogram.h"
 #include "ui/stijl.h"
+#include "ui/taal.h"
 
 int main(int argc, char** argv) {
     using namespace lauwerkrans;
     QApplication toepassing(argc, argv);
     ZetStijl(toepassing);
+    ZetTaal(toepassing);
     QApplication::setWindowIcon(Pictogram());
 
     Algemeen algemeen;

@@ -73,11 +73,14 @@ double MeetBladtekst(const std::string& tekst, const Letter& letter) {
 
 void TekenBlad(QPainter& schilder, const Blad& blad, double schaal) {
     constexpr double lijndikte = 0.2; // mm
-    schilder.setPen(QPen(Qt::black, lijndikte * schaal, Qt::SolidLine, Qt::SquareCap));
+    // On a screen whole pixels: else one rule would look greyer than the next.
+    schilder.setRenderHint(QPainter::Antialiasing, false);
+    schilder.setPen(
+        QPen(Qt::black, std::max(1.0, lijndikte * schaal), Qt::SolidLine, Qt::SquareCap));
     for (const BladLijn& lijn : blad.lijnen) {
         schilder.drawLine(QPointF(lijn.x1, lijn.y1) * schaal, QPointF(lijn.x2, lijn.y2) * schaal);
     }
-    schilder.setPen(Qt::black);
+    schilder.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     for (const BladTekst& tekst : blad.teksten)
         TekenTekst(schilder, tekst, schaal);
 }

@@ -60,7 +60,6 @@ void BladVlak::paintEvent(QPaintEvent* gebeurtenis) {
     QPainter schilder(this);
     const QRect deel = gebeurtenis->rect();
     schilder.fillRect(deel, kleuren::wit);
-    schilder.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     const Uitsnede gezien{deel.top() / schaal_, (deel.bottom() + 1) / schaal_};
     TekenBlad(schilder, bladen_->blad(nummer_, MeetBladtekst, gezien), schaal_);
     TrekRand(schilder, rect(), hasFocus() ? palette().color(QPalette::Highlight) : kleuren::rand);

@@ -17,6 +17,7 @@ pakketten_bouwen=(
 # shellcheck disable=SC2034
 pakketten_scherm=(
   fonts-liberation # the letters of the windows: metric substitutes of the usual Windows fonts
+  qt6-translations-l10n # Qt's own texts in Dutch: buttons, print dialog
 )
 
 # Only for a desktop that has Wayland and nothing else.

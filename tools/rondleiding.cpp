@@ -11,11 +11,13 @@
 #include <QTextStream>
 
 #include <array>
+#include <stdexcept>
 
 #include "app/frmMain_start.h"
 #include "tools/generator.h"
 #include "ui/ontwerp.h"
 #include "ui/stijl.h"
+#include "ui/taal.h"
 
 namespace {
 
@@ -25,7 +27,10 @@ using namespace lauwerkrans;
 class Rondleiding {
 public:
     Rondleiding(const QString& programmaMap, const QString& beeldenMap)
-        : beelden_(beeldenMap), venster_(algemeen_, instellingen_, {}) {
+        : beelden_(beeldenMap), uitvoerMap_(programmaMap + QStringLiteral("/Lauwerkrans")),
+          uitvoer_(instellingen_, {[this](const Melding& melding) { algemeen_.meld(melding); },
+                                   programmaMap.toStdString(), geenPrinter(), [](frmMain&) {}}),
+          venster_(algemeen_, instellingen_, MaakKoppeling(instellingen_, uitvoer_)) {
         algemeen_.meld = [this](const Melding& melding) { meldingen_.push_back(melding); };
         gelukt_ = Form_Load(venster_, algemeen_, instellingen_, programmaMap.toStdString());
         venster_.show();
@@ -34,11 +39,14 @@ public:
     /// Every state of the window with a competition of three lines.
     void loopRond() {
         vulMinima();
+        Vind<QLineEdit>(venster_, "txtKop1")
+            ->setText(QStringLiteral("Kampioenen van de zomercompetitie"));
         bewaar("00-start");
         druk("cmd1_1");
         bewaar("01-lijn-A");
         druk("cmd1_0");
         bewaar("02-alle-lijnen");
+        voerUit("frmPrinten", "13-voorbeeld-per-lijn");
         vink("chkGewogen");
         vink("chkZitDetails");
         druk("cmd1_1");
@@ -46,6 +54,7 @@ public:
         vink("chkGemAlleLijnen");
         druk("cmd1_0");
         bewaar("04-ongeacht-de-lijn-gewogen");
+        voerUit("frmPrintenTI", "14-voorbeeld-alle-lijnen");
         druk("cmd2_0");
         bewaar("05-controle");
         venster_.raster().AccentueerRegel(0, 5 + 4 * 6 + 1);
@@ -90,15 +99,48 @@ private:
         gelukt_ = false;
     }
 
-    void bewaarAndere(const char* venster, const char* naam) {
+    /// The window of this name that is on show.
+    static QWidget& anderVenster(const char* venster) {
         for (QWidget* kandidaat : QApplication::topLevelWidgets()) {
-            if (kandidaat->objectName() == QLatin1String(venster)) bewaarVenster(*kandidaat, naam);
+            if (kandidaat->isVisible() && kandidaat->objectName() == QLatin1String(venster))
+                return *kandidaat;
+        }
+        throw std::runtime_error(venster);
+    }
+
+    void bewaarAndere(const char* venster, const char* naam) {
+        bewaarVenster(anderVenster(venster), naam);
+    }
+
+    /// Opens a preview, keeps its picture and leaves its PDF, CSV and HTML.
+    void voerUit(const char* voorbeeld, const char* naam) {
+        druk("cmdPrinten");
+        QWidget& venster = anderVenster(voorbeeld);
+        bewaarVenster(venster, naam);
+        pdf_ = beelden_.filePath(QStringLiteral("%1.pdf").arg(QLatin1String(naam)));
+        for (const char* knop : {"cmdPrinten", "cmdMaakCSV", "cmdMaakHtml", "cmdEinde"})
+            Vind<QPushButton>(venster, knop)->click();
+        for (const char* soort : {"CSV", "HTML"}) {
+            const QString pad =
+                uitvoerMap_.filePath(QStringLiteral("Lauwr__LijnABC.%1").arg(QLatin1String(soort)));
+            const QString naar = beelden_.filePath(
+                QStringLiteral("%1.%2").arg(QLatin1String(naam), QLatin1String(soort)));
+            gelukt_ = QFile::copy(pad, naar) && gelukt_;
         }
     }
 
+    /// Every print goes to the PDF beside the pictures.
+    Printomgeving geenPrinter() {
+        return {[] { return false; }, [](QPrinter&, QWidget*) { return false; },
+                [this](const QString&, QWidget*) { return pdf_; }};
+    }
+
     QDir beelden_;
+    QDir uitvoerMap_;
     Algemeen algemeen_;
     Instellingen instellingen_;
+    QString pdf_;
+    Uitvoervensters uitvoer_;
     frmMain venster_;
     std::vector<Melding> meldingen_;
     bool gelukt_ = true;
@@ -147,9 +189,10 @@ int main(int argc, char** argv) {
         return 2;
     }
     ZetStijl(toepassing);
+    ZetTaal(toepassing);
     QDir().mkpath(woorden[2]);
     Rondleiding rondleiding(woorden[1], woorden[2]);
     rondleiding.loopRond();
-    const bool gelukt = rondleiding.klaar(0);
+    const bool gelukt = rondleiding.klaar(4); // two lists, each as CSV and as HTML
     return ToonAndereCompetities(woorden[1], woorden[2]) && gelukt ? 0 : 1;
 }
