@@ -6,7 +6,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 # shellcheck source=tools/pakketten.sh
 source tools/pakketten.sh
 
-installeer bouwen scherm beelden
+installeer bouwen scherm beelden toetsen
 configureer ci
 cmake --build --preset ci
 exec ctest --preset ci

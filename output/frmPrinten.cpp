@@ -1,5 +1,6 @@
 #include "output/frmPrinten.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
 
@@ -39,6 +40,8 @@ frmPrinten::frmPrinten(Printomgeving omgeving)
     auto* Bladscroll = Vind<QScrollBar>(*this, "Bladscroll");
     Bladscroll->setFocusPolicy(Qt::StrongFocus);
     Bladscroll->setRange(1, 1);
+    Bladscroll->setPageStep(1);
+    Bladscroll->installEventFilter(this);
     connect(Bladscroll, &QScrollBar::valueChanged, this, &frmPrinten::toonBlad);
     auto* txtBlad = Vind<QLineEdit>(*this, "txtBlad");
     txtBlad->setValidator(
@@ -47,6 +50,21 @@ frmPrinten::frmPrinten(Printomgeving omgeving)
     auto* txtAantPages = Vind<QLineEdit>(*this, "txtAantPages");
     txtAantPages->setReadOnly(true);
     txtAantPages->setFocusPolicy(Qt::NoFocus);
+}
+
+/// The box loses the focus once more when it is taken down.
+frmPrinten::~frmPrinten() { Vind<QLineEdit>(*this, "txtBlad")->disconnect(this); }
+
+/// The arrows left and right go the way they point; the toolkit's scroll bars turn them round.
+bool frmPrinten::eventFilter(QObject* object, QEvent* gebeurtenis) {
+    if (gebeurtenis->type() != QEvent::KeyPress)
+        return Printvenster::eventFilter(object, gebeurtenis);
+    const int toets = static_cast<QKeyEvent*>(gebeurtenis)->key();
+    if (toets != Qt::Key_Left && toets != Qt::Key_Right) return false;
+    Vind<QScrollBar>(*this, "Bladscroll")
+        ->triggerAction(toets == Qt::Key_Left ? QAbstractSlider::SliderSingleStepSub
+                                              : QAbstractSlider::SliderSingleStepAdd);
+    return true;
 }
 
 void frmPrinten::pagineer() {

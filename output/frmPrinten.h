@@ -9,6 +9,11 @@ class frmPrinten : public Printvenster {
     Q_OBJECT
 public:
     explicit frmPrinten(Printomgeving omgeving);
+    frmPrinten(const frmPrinten&) = delete;
+    frmPrinten(frmPrinten&&) = delete;
+    frmPrinten& operator=(const frmPrinten&) = delete;
+    frmPrinten& operator=(frmPrinten&&) = delete;
+    ~frmPrinten() override;
 
     /// Empties the list on show.
     void leeg();
@@ -18,6 +23,7 @@ public:
     [[nodiscard]] std::size_t bladnummer() const;
 
 protected:
+    bool eventFilter(QObject* object, QEvent* gebeurtenis) override;
     void pagineer() override;
     [[nodiscard]] std::unique_ptr<Bladen> bladen(double hoogte) const override;
     void maakCSV() override;

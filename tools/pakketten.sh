@@ -33,6 +33,12 @@ pakketten_beelden=(
   openbox         # a window manager, for maximising and for the outer size of a window
 )
 
+# What the tests look at the program's files with.
+# shellcheck disable=SC2034
+pakketten_toetsen=(
+  poppler-utils   # reads the printed pages back: texts and their places
+)
+
 # What .ci/run checks beyond the tests.
 # shellcheck disable=SC2034
 pakketten_ci=(

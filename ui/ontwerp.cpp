@@ -128,6 +128,7 @@ QWidget* MaakKopLabel(QWidget* houder, const Ontwerp& ontwerp) {
 }
 
 QWidget* MaakTekstvak(QLineEdit* vak, const Ontwerp& ontwerp) {
+    vak->setText(Tekst(ontwerp.bijschrift));
     vak->setFont(Letters(vak->font().pixelSize(), Heeft(ontwerp, Vet)));
     vak->setAlignment((Heeft(ontwerp, Midden) ? Qt::AlignHCenter : Qt::AlignLeft) |
                       Qt::AlignVCenter);

@@ -1,0 +1,37 @@
+// A preview over made-up lists, with answers for printers and dialogs.
+#pragma once
+
+#include <QPushButton>
+
+#include "kern/uitvoerproef.h"
+#include "output/frmPrinten.h"
+#include "output/frmPrintenTI.h"
+#include "vensterproef.h"
+
+namespace lauwerkrans::proef {
+
+/// A list of lines "A", "B", ... with so many pairs each.
+[[nodiscard]] std::shared_ptr<Uitslag> GroteUitslag(const std::vector<std::size_t>& paren);
+
+/// Presses a button of a window with the mouse.
+void Druk(const QWidget& venster, const char* naam);
+
+/// A word of a PDF with its place in millimetres: its left end and its baseline, and its
+/// page.
+struct PdfTekst {
+    int blad = 1;
+    double x = 0;
+    double y = 0;
+    std::string tekst;
+};
+
+/// The words of a PDF, line by line.
+[[nodiscard]] std::vector<PdfTekst> LeesPdf(const std::string& pad);
+
+/// The number of pages of a PDF.
+[[nodiscard]] int PdfBladen(const std::string& pad);
+
+/// The words of one page, joined by blanks.
+[[nodiscard]] std::string PdfBlad(const std::string& pad, int blad);
+
+} // namespace lauwerkrans::proef
