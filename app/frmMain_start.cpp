@@ -26,6 +26,11 @@ bool LeesMappen(Algemeen& algemeen, const std::string& programmaMap) {
 
 } // namespace
 
+bool MagStarten(const systeem::EnigeKopie& kopie, const Melder& meld) {
+    if (!kopie.gelukt()) meld({"Het programma is al gestart!...", Icoon::Geen});
+    return kopie.gelukt();
+}
+
 bool Form_Load(frmMain& venster, Algemeen& algemeen, Instellingen& instellingen,
                const std::string& programmaMap) {
     instellingen.bestand = InstellingenPad(programmaMap);

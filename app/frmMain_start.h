@@ -4,9 +4,13 @@
 #include <string>
 
 #include "app/modMappen.h"
+#include "data/systeem.h"
 #include "ui/frmMain.h"
 
 namespace lauwerkrans {
+
+/// Whether this copy of the program may go on: when another one runs, it says so and may not.
+[[nodiscard]] bool MagStarten(const systeem::EnigeKopie& kopie, const Melder& meld);
 
 /// Runs the start-up: reads the settings and Mappen.ini of the program folder and, when a
 /// competition is active, loads it with its members and applies the settings. False when there is

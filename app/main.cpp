@@ -6,7 +6,6 @@
 #include <optional>
 
 #include "app/frmMain_start.h"
-#include "data/systeem.h"
 #include "ui/berichten.h"
 #include "ui/klein_scherm.h"
 #include "ui/maten.h"
@@ -25,10 +24,7 @@ int main(int argc, char** argv) {
     algemeen.meld = [&hoofdvenster](const Melding& melding) { ToonMelding(hoofdvenster, melding); };
 
     const systeem::EnigeKopie enigeKopie("lauwerkrans");
-    if (!enigeKopie.gelukt()) {
-        algemeen.meld({"Het programma is al gestart!...", Icoon::Geen});
-        return 0;
-    }
+    if (!MagStarten(enigeKopie, algemeen.meld)) return 0;
     frmMain venster(algemeen, instellingen,
                     {[&] { BewaarInstellingen(*hoofdvenster, instellingen); }, {}});
 

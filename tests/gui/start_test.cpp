@@ -59,6 +59,18 @@ protected:
 constexpr const char* ledenFout = "\r\nFout bij het lezen van de Groepen!\r\n";
 const std::string geenCompData = "Geen bestand met competitiegegevens aanwezig.\r\n";
 
+TEST(MagStarten, TheFirstCopyGoesOnAndASecondOneSaysThatItIsThere) {
+    Meldingen meldingen;
+    const std::string naam =
+        "lauwerkrans-start-" + std::to_string(QCoreApplication::applicationPid());
+    const systeem::EnigeKopie eerste(naam);
+    EXPECT_TRUE(MagStarten(eerste, meldingen.melder()));
+    EXPECT_TRUE(meldingen.getoond.empty());
+    EXPECT_FALSE(MagStarten(systeem::EnigeKopie(naam), meldingen.melder()));
+    ASSERT_EQ(meldingen.getoond.size(), 1U);
+    EXPECT_EQ(meldingen.getoond[0], (Melding{"Het programma is al gestart!...", Icoon::Geen}));
+}
+
 TEST_F(Start, WithoutFolderConfigurationSaysSoAndDoesNotGoOn) {
     EXPECT_FALSE(laad());
     ASSERT_EQ(meldingen().size(), 1U);
