@@ -3,6 +3,7 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QToolTip>
 
 #include <algorithm>
 #include <array>
@@ -12,11 +13,43 @@ namespace lauwerkrans {
 
 namespace {
 
-/// Fusion with the small check boxes that the stated widths count with, and with coloured buttons
-/// in exactly their colour, where Fusion makes a paler shade of it.
+QPalette LichtPalet() {
+    QPalette palet;
+    const auto zet = [&palet](QPalette::ColorRole rol, QColor kleur, QColor uit) {
+        palet.setColor(QPalette::All, rol, kleur);
+        palet.setColor(QPalette::Disabled, rol, uit);
+    };
+    zet(QPalette::Window, kleuren::venster, kleuren::venster);
+    zet(QPalette::Base, kleuren::wit, kleuren::venster);
+    zet(QPalette::AlternateBase, kleuren::venster, kleuren::venster);
+    zet(QPalette::Button, kleuren::venster, kleuren::venster);
+    zet(QPalette::WindowText, kleuren::zwart, kleuren::uitgeschakeld);
+    zet(QPalette::Text, kleuren::zwart, kleuren::uitgeschakeld);
+    zet(QPalette::ButtonText, kleuren::zwart, kleuren::uitgeschakeld);
+    zet(QPalette::PlaceholderText, kleuren::uitgeschakeld, kleuren::uitgeschakeld);
+    zet(QPalette::BrightText, kleuren::wit, kleuren::wit);
+    zet(QPalette::ToolTipBase, QColor(255, 255, 225), QColor(255, 255, 225));
+    zet(QPalette::ToolTipText, kleuren::zwart, kleuren::zwart);
+    zet(QPalette::Highlight, QColor(0, 90, 180), kleuren::rand);
+    zet(QPalette::HighlightedText, kleuren::wit, kleuren::wit);
+    zet(QPalette::Light, kleuren::wit, kleuren::wit);
+    zet(QPalette::Midlight, QColor(227, 227, 227), QColor(227, 227, 227));
+    zet(QPalette::Mid, kleuren::actieveRand, kleuren::actieveRand);
+    zet(QPalette::Dark, kleuren::rand, kleuren::rand);
+    zet(QPalette::Shadow, QColor(105, 105, 105), QColor(105, 105, 105));
+    zet(QPalette::Link, kleuren::blauw, kleuren::uitgeschakeld);
+    return palet;
+}
+
+/// Fusion with the small check boxes that the stated widths count with, with coloured buttons in
+/// exactly their colour, where Fusion makes a paler shade of it, and with the light palette for
+/// every class of controls, whatever the desktop's theme gives it and whenever.
 class Stijl : public QProxyStyle {
 public:
     Stijl() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    using QProxyStyle::polish;
+    void polish(QPalette& palet) override { palet = LichtPalet(); }
 
     [[nodiscard]] int pixelMetric(PixelMetric maat, const QStyleOption* optie,
                                   const QWidget* element) const override {
@@ -47,35 +80,6 @@ public:
         schilder->restore();
     }
 };
-
-QPalette LichtPalet() {
-    QPalette palet;
-    const auto zet = [&palet](QPalette::ColorRole rol, QColor kleur, QColor uit) {
-        palet.setColor(QPalette::All, rol, kleur);
-        palet.setColor(QPalette::Disabled, rol, uit);
-    };
-    zet(QPalette::Window, kleuren::venster, kleuren::venster);
-    zet(QPalette::Base, kleuren::wit, kleuren::venster);
-    zet(QPalette::AlternateBase, kleuren::venster, kleuren::venster);
-    zet(QPalette::Button, kleuren::venster, kleuren::venster);
-    zet(QPalette::WindowText, kleuren::zwart, kleuren::uitgeschakeld);
-    zet(QPalette::Text, kleuren::zwart, kleuren::uitgeschakeld);
-    zet(QPalette::ButtonText, kleuren::zwart, kleuren::uitgeschakeld);
-    zet(QPalette::PlaceholderText, kleuren::uitgeschakeld, kleuren::uitgeschakeld);
-    zet(QPalette::BrightText, kleuren::wit, kleuren::wit);
-    zet(QPalette::ToolTipBase, QColor(255, 255, 225), QColor(255, 255, 225));
-    zet(QPalette::ToolTipText, kleuren::zwart, kleuren::zwart);
-    zet(QPalette::Highlight, QColor(0, 90, 180), kleuren::rand);
-    zet(QPalette::HighlightedText, kleuren::wit, kleuren::wit);
-    zet(QPalette::Light, kleuren::wit, kleuren::wit);
-    zet(QPalette::Midlight, QColor(227, 227, 227), QColor(227, 227, 227));
-    zet(QPalette::Mid, kleuren::actieveRand, kleuren::actieveRand);
-    zet(QPalette::Dark, kleuren::rand, kleuren::rand);
-    zet(QPalette::Shadow, QColor(105, 105, 105), QColor(105, 105, 105));
-    zet(QPalette::Link, kleuren::blauw, kleuren::uitgeschakeld);
-    return palet;
-}
-
 } // namespace
 
 QColor LijnKleur(char letter) {
@@ -100,6 +104,7 @@ void ZetStijl(QApplication& /*toepassing*/) {
     constexpr int gewoon = 11;
     QApplication::setStyle(new Stijl);
     QApplication::setPalette(LichtPalet());
+    QToolTip::setPalette(LichtPalet());
     QApplication::setFont(Letters(gewoon, false));
 }
 
