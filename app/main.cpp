@@ -34,7 +34,7 @@ int main(int argc, char** argv) {
     const QRect vrij = venster.screen()->availableGeometry();
     std::optional<KleinScherm> kleinScherm;
     if (KleinScherm::nodig(venster, vrij)) {
-        kleinScherm.emplace(venster).showMaximized();
+        kleinScherm.emplace(venster).toon(vrij);
     } else {
         QRect plaats(QPoint(), maten::Buitenmaat(venster.size()));
         plaats.moveCenter(vrij.center());

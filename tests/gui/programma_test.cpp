@@ -45,7 +45,7 @@ public:
         return proces_.readLine().trimmed().toStdString();
     }
 
-    /// Does what the user would do: 'o' answers the box, 'e' presses "Einde".
+    /// Does what the user would do: 'o' answers the box, 'e' presses "Einde", 't' "Toelichting".
     void doe(char letter) {
         proces_.write(&letter, 1);
         proces_.waitForBytesWritten(geduld);
@@ -94,6 +94,15 @@ protected:
         competitie.map().maakMap("Lauwerkrans");
         programma = map + "/Lauwerkrans/Lauwerkrans";
         std::filesystem::copy_file(LAUWERKRANS_PROGRAMMA, programma);
+    }
+    /// The platform with one screen of this size (pixels).
+    [[nodiscard]] std::string scherm(int breedte, int hoogte) const {
+        competitie.map().schrijf("schermen.json",
+                                 R"({"screens": [{"name": "een", "x": 0, "y": 0, "logicalDpi": 96,)"
+                                 R"( "logicalBaseDpi": 96, "dpr": 1, "width": )" +
+                                     std::to_string(breedte) + R"(, "height": )" +
+                                     std::to_string(hoogte) + "}]}");
+        return "offscreen:configfile=" + competitie.map().pad() + "/schermen.json";
     }
     void SetUp() override {
         ASSERT_TRUE(beurt->gelukt());
@@ -157,11 +166,18 @@ TEST_F(Programma, AfterAKillTheNextStartIsNotRefused) {
 }
 
 TEST_F(Programma, OpensInTheMiddleOfTheScreen) {
-    competitie.map().schrijf("schermen.json", R"({"screens": [{"name": "groot", "x": 0, "y": 0,
-        "width": 1600, "height": 1200, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
-    Kopie kopie(programma, "offscreen:configfile=" + competitie.map().pad() + "/schermen.json");
-    // Its frame and title bar count: 13000 x 7640 twips in the middle of 1600 x 1200 pixels.
+    Kopie kopie(programma, scherm(1600, 1200));
+    // Its frame and title bar count: 13000 x 7640 twips in the middle.
     EXPECT_EQ(kopie.ziet(), hoofdvenster + " 366 345 861 480| 0 0 1600 1200");
+    kopie.doe('t');
+    EXPECT_EQ(kopie.ziet(), "venster Toelichting| 479 332 634 480| 0 0 1600 1200");
+}
+
+TEST_F(Programma, FitsOnASmallScreenWithItsExplanation) {
+    Kopie kopie(programma, scherm(634, 480)); // less the frame: 6 x 29 pixels
+    EXPECT_EQ(kopie.ziet(), hoofdvenster + " 0 0 628 451| 0 0 634 480");
+    kopie.doe('t');
+    EXPECT_EQ(kopie.ziet(), "venster Toelichting| 0 0 628 451| 0 0 634 480");
 }
 
 TEST_F(Programma, WithoutFolderConfigurationEndsWithStatusOne) {

@@ -1,6 +1,7 @@
 // An eyewitness inside the real program, by the toolkit's own hook for tests: with
 // QT_LOAD_TESTABILITY=1 it loads this library and calls the function at the end. What the user sees
-// is written to standard output, a line for each window and box; a letter on standard input does
+// is written to standard output, a line for each window and box; a window with the place of its
+// frame, its size within the frame and the free area of its screen. A letter on standard input does
 // what the user would do.
 #include <QApplication>
 #include <QEvent>
@@ -37,7 +38,9 @@ public:
     bool eventFilter(QObject* object, QEvent* gebeurtenis) override {
         const auto* element = qobject_cast<QWidget*>(object);
         if (gebeurtenis->type() == QEvent::Show && element != nullptr && element->isWindow()) {
-            meld(*element);
+            // Its first moments over: a window may still be on its way to its size.
+            QMetaObject::invokeMethod(
+                object, [element] { meld(*element); }, Qt::QueuedConnection);
         }
         return QObject::eventFilter(object, gebeurtenis);
     }
@@ -49,12 +52,13 @@ private:
                 "|icoon " + QByteArray::number(bericht->icon()) + "|knoppen " +
                 QByteArray::number(int{bericht->standardButtons()}));
         } else {
-            Zeg("venster " + element.windowTitle().toUtf8() + '|' + Tekst(element.geometry()) +
-                '|' + Tekst(element.screen()->availableGeometry()));
+            Zeg("venster " + element.windowTitle().toUtf8() + '|' +
+                Tekst({element.pos(), element.size()}) + '|' +
+                Tekst(element.screen()->availableGeometry()));
         }
     }
 
-    /// 'o' answers the message box, 'e' presses "Einde".
+    /// 'o' answers the message box, 'e' presses "Einde", 't' "Toelichting".
     void lees() {
         char letter = '\0';
         if (::read(0, &letter, 1) != 1) {
@@ -62,14 +66,17 @@ private:
             return;
         }
         if (letter == 'o') {
-            if (auto* bericht = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                bericht->button(QMessageBox::Ok)->click();
-            }
-        } else if (letter == 'e') {
-            for (QWidget* venster : QApplication::topLevelWidgets()) {
-                auto* knop = venster->findChild<QPushButton*>(QStringLiteral("cmdEinde"));
-                if (knop != nullptr) knop->click();
-            }
+            auto* bericht = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (bericht != nullptr) bericht->button(QMessageBox::Ok)->click();
+        }
+        if (letter == 'e') druk(QStringLiteral("cmdEinde"));
+        if (letter == 't') druk(QStringLiteral("cmdToelichting"));
+    }
+
+    static void druk(const QString& naam) {
+        for (const QWidget* venster : QApplication::topLevelWidgets()) {
+            auto* knop = venster->findChild<QPushButton*>(naam);
+            if (knop != nullptr) knop->click();
         }
     }
 
