@@ -38,6 +38,7 @@ bool Form_Load(frmMain& venster, Algemeen& algemeen, Instellingen& instellingen,
     if (!LeesMappen(algemeen, programmaMap)) return false;
     if (algemeen.ActieveCompetitie.empty()) {
         venster.toonZonderCompetitie();
+        Vind<QWidget>(venster, "cmdToelichting")->setFocus();
         algemeen.meld({"U hebt nog geen competitie(-zitting) gekozen.", Icoon::Uitroep});
         return true;
     }

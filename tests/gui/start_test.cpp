@@ -247,6 +247,15 @@ TEST_F(Start, GivesTheFirstCriterionTheFocus) {
     EXPECT_TRUE(vind<QWidget>("txt1_1").hasFocus());
 }
 
+TEST_F(Start, WithoutActiveCompetitionGivesTheExplanationTheFocus) {
+    schrijfMappen("");
+    ASSERT_TRUE(laad());
+    venster.show();
+    venster.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&venster));
+    EXPECT_TRUE(vind<QWidget>("cmdToelichting").hasFocus());
+}
+
 TEST_F(Start, OfAnotherCompetitionForgetsTheResultOfTheFirst) {
     competitie.schrijfZitting(1, 1, {ProefCompetitie::regel("A1", "3-17", "60,000")});
     ASSERT_TRUE(start());
