@@ -59,8 +59,6 @@ public:
             return 13;
         case PM_CheckBoxLabelSpacing:
             return 4;
-        case PM_ButtonMargin:
-            return 0;
         default:
             return QProxyStyle::pixelMetric(maat, optie, element);
         }
