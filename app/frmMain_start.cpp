@@ -26,6 +26,11 @@ bool LeesMappen(Algemeen& algemeen, const std::string& programmaMap) {
 
 } // namespace
 
+bool MagStarten(const systeem::EnigeKopie& kopie, const Melder& meld) {
+    if (!kopie.gelukt()) meld({"Het programma is al gestart!...", Icoon::Geen});
+    return kopie.gelukt();
+}
+
 frmMain::Koppeling MaakKoppeling(const Instellingen& instellingen, Uitvoervensters& uitvoer) {
     return {[&instellingen](frmMain& venster) { BewaarInstellingen(venster, instellingen); },
             [&uitvoer](frmMain& venster) { uitvoer.cmdPrinten_Click(venster); },
@@ -40,6 +45,7 @@ bool Form_Load(frmMain& venster, Algemeen& algemeen, Instellingen& instellingen,
     if (!LeesMappen(algemeen, programmaMap)) return false;
     if (algemeen.ActieveCompetitie.empty()) {
         venster.toonZonderCompetitie();
+        Vind<QWidget>(venster, "cmdToelichting")->setFocus();
         algemeen.meld({"U hebt nog geen competitie(-zitting) gekozen.", Icoon::Uitroep});
         return true;
     }

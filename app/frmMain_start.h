@@ -4,10 +4,14 @@
 #include <string>
 
 #include "app/modMappen.h"
+#include "data/systeem.h"
 #include "output/uitvoervensters.h"
 #include "ui/frmMain.h"
 
 namespace lauwerkrans {
+
+/// Whether this copy of the program may go on: when another one runs, it says so and may not.
+[[nodiscard]] bool MagStarten(const systeem::EnigeKopie& kopie, const Melder& meld);
 
 /// What the main window asks of the settings and of the output.
 [[nodiscard]] frmMain::Koppeling MaakKoppeling(const Instellingen& instellingen,

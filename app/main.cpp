@@ -6,7 +6,6 @@
 #include <optional>
 
 #include "app/frmMain_start.h"
-#include "data/systeem.h"
 #include "ui/berichten.h"
 #include "ui/klein_scherm.h"
 #include "ui/maten.h"
@@ -30,10 +29,7 @@ int main(int argc, char** argv) {
     };
 
     const systeem::EnigeKopie enigeKopie("lauwerkrans");
-    if (!enigeKopie.gelukt()) {
-        algemeen.meld({"Het programma is al gestart!...", Icoon::Geen});
-        return 0;
-    }
+    if (!MagStarten(enigeKopie, algemeen.meld)) return 0;
     const std::string map =
         QDir::toNativeSeparators(QApplication::applicationDirPath()).toStdString();
     Uitvoervensters uitvoer(
@@ -47,7 +43,7 @@ int main(int argc, char** argv) {
     const QRect vrij = venster.screen()->availableGeometry();
     std::optional<KleinScherm> kleinScherm;
     if (KleinScherm::nodig(venster, vrij)) {
-        kleinScherm.emplace(venster).showMaximized();
+        kleinScherm.emplace(venster).toon(vrij);
     } else {
         QRect plaats(QPoint(), maten::Buitenmaat(venster.size()));
         plaats.moveCenter(vrij.center());

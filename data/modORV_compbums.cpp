@@ -69,7 +69,11 @@ Rij LeesCompBums(const RondeMappen& mappen) {
 void LeesCompBums(Algemeen& algemeen) {
     algemeen.BumLijst = Rij();
     const auto ronden = static_cast<std::size_t>(algemeen.compTabel.ronden());
-    algemeen.BumLijst = LeesCompBums(RondeMappen(algemeen.competitie, ronden));
+    try {
+        algemeen.BumLijst = LeesCompBums(RondeMappen(algemeen.competitie, ronden));
+    } catch (const Fout&) {
+        return; // a folder that cannot be listed is reported where its sessions are counted
+    }
 }
 
 BumZoeker::BumZoeker(const Rij& bumLijst) : perRonde_(meesteRonden + 1) {

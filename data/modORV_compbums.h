@@ -17,7 +17,7 @@ namespace lauwerkrans {
 /// malformed or unreadable file is passed over without a message.
 [[nodiscard]] Rij LeesCompBums(const RondeMappen& mappen);
 
-/// The same into `algemeen.BumLijst`. Throws Fout when a round's folder cannot be read.
+/// The same into `algemeen.BumLijst`. A round's folder that cannot be listed leaves it empty.
 void LeesCompBums(Algemeen& algemeen);
 
 /// Answers which pairs play a round out of competition.

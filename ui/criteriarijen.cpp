@@ -183,12 +183,17 @@ bool Criteriarijen::eventFilter(QObject* object, QEvent* gebeurtenis) {
     return QObject::eventFilter(object, gebeurtenis);
 }
 
+/// Whether the focus is back: the click itself gave a message about this box.
+bool Criteriarijen::heeftFocus(std::size_t lijn) const {
+    return rijen_[lijn].txt1 == P0->window()->focusWidget();
+}
+
 void Criteriarijen::meldVerlaten(std::size_t lijn) {
     const auto zend = [this, lijn] {
         // A message of the click itself comes first; this one waits until it is gone.
         if (const QWidget* bericht = QApplication::activeModalWidget()) {
             connect(bericht, &QObject::destroyed, this, [this, lijn] { meldVerlaten(lijn); });
-        } else if (!zwijgt_ && lijn < rijen_.size()) {
+        } else if (!zwijgt_ && lijn < rijen_.size() && !heeftFocus(lijn)) {
             emit verlaten(lijn);
         }
     };

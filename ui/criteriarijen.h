@@ -66,6 +66,7 @@ private:
     void zetTabvolgorde();
     void verbind(const Rij& rij, std::size_t nummer);
     void veldVerlaten(std::size_t lijn);
+    [[nodiscard]] bool heeftFocus(std::size_t lijn) const;
     void meldVerlaten(std::size_t lijn);
     void schuif(int waarde);
     void toonMetFocus(const QWidget* oud, const QWidget* nieuw);

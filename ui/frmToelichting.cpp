@@ -1,5 +1,6 @@
 #include "ui/frmToelichting.h"
 
+#include <QScreen>
 #include <QScrollBar>
 
 #include "ui/maten.h"
@@ -39,8 +40,12 @@ frmToelichting::frmToelichting() : Text1(new QPlainTextEdit(this)) {
 
 void frmToelichting::toonOver(const QWidget& venster) {
     if (!geplaatst_) {
-        QRect vak = rect();
-        vak.moveCenter(venster.frameGeometry().center());
+        const QWidget& buitenste = *venster.window();
+        const QSize kader = maten::Buitenmaat(size()) - size();
+        QRect vak(QPoint(), maten::Buitenmaat(size()));
+        vak.moveCenter(buitenste.frameGeometry().center());
+        vak = maten::BinnenScherm(vak, buitenste.screen()->availableGeometry());
+        resize(vak.size() - kader);
         move(vak.topLeft());
         geplaatst_ = true;
     }

@@ -11,7 +11,8 @@ class frmToelichting : public QWidget {
 public:
     frmToelichting();
 
-    /// Shows the window, the first time over the given one, and brings it to the front.
+    /// Shows the window, the first time over the given one and within its screen, and brings it to
+    /// the front.
     void toonOver(const QWidget& venster);
 
 protected:

@@ -26,6 +26,12 @@ bool KleinScherm::nodig(const QWidget& venster, const QRect& vrij) {
     return kleinste.width() > vrij.width() || kleinste.height() > vrij.height();
 }
 
+void KleinScherm::toon(const QRect& vrij) {
+    resize(vrij.size() - (maten::Buitenmaat(vrij.size()) - vrij.size()));
+    move(vrij.topLeft());
+    showMaximized();
+}
+
 void KleinScherm::closeEvent(QCloseEvent* gebeurtenis) {
     QScrollArea::closeEvent(gebeurtenis);
     venster_.close();

@@ -21,6 +21,9 @@ public:
     /// Whether a window needs this on a screen with such a free area.
     [[nodiscard]] static bool nodig(const QWidget& venster, const QRect& vrij);
 
+    /// Shows it over the whole of a free area, also where nobody maximises windows.
+    void toon(const QRect& vrij);
+
 protected:
     void closeEvent(QCloseEvent* gebeurtenis) override;
     bool eventFilter(QObject* object, QEvent* gebeurtenis) override;

@@ -31,6 +31,13 @@ QSize Buitenmaat(QSize binnen) {
         .size();
 }
 
+QRect BinnenScherm(QRect buiten, const QRect& vrij) {
+    buiten.setSize(buiten.size().boundedTo(vrij.size()));
+    buiten.moveLeft(std::clamp(buiten.left(), vrij.left(), vrij.right() - buiten.width() + 1));
+    buiten.moveTop(std::clamp(buiten.top(), vrij.top(), vrij.bottom() - buiten.height() + 1));
+    return buiten;
+}
+
 void Plaats(QWidget& element, const Vak& twips) {
     element.setProperty(eigenschap, QRectF(twips.links, twips.boven, twips.breedte, twips.hoogte));
     const auto* paneel = qobject_cast<const QFrame*>(element.parentWidget());

@@ -27,6 +27,7 @@ constexpr double mmPerPixel = 25.4 / 96.0;
 [[nodiscard]] constexpr double PixelsNaarTwips(double pixels) { return pixels * twipsPerPixel; }
 [[nodiscard]] constexpr double MmNaarPixels(double mm) { return mm / mmPerPixel; }
 [[nodiscard]] constexpr double PixelsNaarMm(double pixels) { return pixels * mmPerPixel; }
+[[nodiscard]] constexpr double TwipsNaarMm(double twips) { return twips * 25.4 / 1440.0; }
 
 /// A place in twips as whole pixels: round(left), round(top), round(right) - left, round(bottom)
 /// - top, so that what touches in twips touches in pixels.
@@ -35,6 +36,10 @@ constexpr double mmPerPixel = 25.4 / 96.0;
 /// The size of a window with its frame and title bar (85 x 440 twips on every system), from that of
 /// its client area; both in pixels.
 [[nodiscard]] QSize Buitenmaat(QSize binnen);
+
+/// A window's outer place, made smaller where the free area of the screen is smaller, and moved so
+/// that it lies wholly within that area; in pixels.
+[[nodiscard]] QRect BinnenScherm(QRect buiten, const QRect& vrij);
 
 /// Puts a control at its place in twips within its container's border and remembers those.
 void Plaats(QWidget& element, const Vak& twips);

@@ -188,6 +188,11 @@ QWidget* MaakWidget(QWidget* houder, const Ontwerp& ontwerp) {
 void MaakStreep(QWidget& houder, const Ontwerp& ontwerp) {
     auto* streep = new Streep(&houder);
     streep->setObjectName(QString::fromLatin1(ontwerp.naam));
+    const Vak& plaats = ontwerp.plaats;
+    streep->x1 = maten::TwipsNaarMm(plaats.links);
+    streep->y1 = maten::TwipsNaarMm(plaats.boven);
+    streep->x2 = maten::TwipsNaarMm(plaats.links + plaats.breedte);
+    streep->y2 = maten::TwipsNaarMm(plaats.boven + plaats.hoogte);
 }
 
 void MaakDialoog(QWidget& venster, const Ontwerp& ontwerp) {

@@ -88,7 +88,7 @@ bool PaneelP20::ctrlToets(int toets) {
         verzetMarkering(1);
         return true;
     case Qt::Key_C:
-        QGuiApplication::clipboard()->setText(alsTekst());
+        if (lijst_) QGuiApplication::clipboard()->setText(alsTekst());
         return true;
     default:
         return false;

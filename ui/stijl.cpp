@@ -3,6 +3,7 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QToolTip>
 
 #include <algorithm>
 #include <array>
@@ -11,42 +12,6 @@
 namespace lauwerkrans {
 
 namespace {
-
-/// Fusion with the small check boxes that the stated widths count with, and with coloured buttons
-/// in exactly their colour, where Fusion makes a paler shade of it.
-class Stijl : public QProxyStyle {
-public:
-    Stijl() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
-
-    [[nodiscard]] int pixelMetric(PixelMetric maat, const QStyleOption* optie,
-                                  const QWidget* element) const override {
-        switch (maat) {
-        case PM_IndicatorWidth:
-        case PM_IndicatorHeight:
-            return 13;
-        case PM_CheckBoxLabelSpacing:
-            return 4;
-        case PM_ButtonMargin:
-            return 0;
-        default:
-            return QProxyStyle::pixelMetric(maat, optie, element);
-        }
-    }
-
-    void drawPrimitive(PrimitiveElement deel, const QStyleOption* optie, QPainter* schilder,
-                       const QWidget* element) const override {
-        QProxyStyle::drawPrimitive(deel, optie, schilder, element);
-        const QColor kleur = optie->palette.color(QPalette::Button);
-        if (deel != PE_PanelButtonCommand || kleur == kleuren::venster) return;
-        const bool ingedrukt = (optie->state & (State_Sunken | State_On)) != 0;
-        schilder->save();
-        schilder->setRenderHint(QPainter::Antialiasing);
-        schilder->setPen(Qt::NoPen);
-        schilder->setBrush(ingedrukt ? kleur.darker(115) : kleur);
-        schilder->drawRoundedRect(QRectF(optie->rect).adjusted(1, 1, -1, -1), 1.5, 1.5);
-        schilder->restore();
-    }
-};
 
 QPalette LichtPalet() {
     QPalette palet;
@@ -76,6 +41,43 @@ QPalette LichtPalet() {
     return palet;
 }
 
+/// Fusion with the small check boxes that the stated widths count with, with coloured buttons in
+/// exactly their colour, where Fusion makes a paler shade of it, and with the light palette for
+/// every class of controls, whatever the desktop's theme gives it and whenever.
+class Stijl : public QProxyStyle {
+public:
+    Stijl() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    using QProxyStyle::polish;
+    void polish(QPalette& palet) override { palet = LichtPalet(); }
+
+    [[nodiscard]] int pixelMetric(PixelMetric maat, const QStyleOption* optie,
+                                  const QWidget* element) const override {
+        switch (maat) {
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+            return 13;
+        case PM_CheckBoxLabelSpacing:
+            return 4;
+        default:
+            return QProxyStyle::pixelMetric(maat, optie, element);
+        }
+    }
+
+    void drawPrimitive(PrimitiveElement deel, const QStyleOption* optie, QPainter* schilder,
+                       const QWidget* element) const override {
+        QProxyStyle::drawPrimitive(deel, optie, schilder, element);
+        const QColor kleur = optie->palette.color(QPalette::Button);
+        if (deel != PE_PanelButtonCommand || kleur == kleuren::venster) return;
+        const bool ingedrukt = (optie->state & (State_Sunken | State_On)) != 0;
+        schilder->save();
+        schilder->setRenderHint(QPainter::Antialiasing);
+        schilder->setPen(Qt::NoPen);
+        schilder->setBrush(ingedrukt ? kleur.darker(115) : kleur);
+        schilder->drawRoundedRect(QRectF(optie->rect).adjusted(1, 1, -1, -1), 1.5, 1.5);
+        schilder->restore();
+    }
+};
 } // namespace
 
 QColor LijnKleur(char letter) {
@@ -100,6 +102,7 @@ void ZetStijl(QApplication& /*toepassing*/) {
     constexpr int gewoon = 11;
     QApplication::setStyle(new Stijl);
     QApplication::setPalette(LichtPalet());
+    QToolTip::setPalette(LichtPalet());
     QApplication::setFont(Letters(gewoon, false));
 }
 

@@ -22,7 +22,7 @@ constexpr QColor puurGroen(0, 255, 0);
 constexpr QColor venster(240, 240, 240);
 constexpr QColor actieveRand(180, 180, 180);
 constexpr QColor rand(160, 160, 160);
-constexpr QColor uitgeschakeld(110, 110, 110);
+constexpr QColor uitgeschakeld(108, 108, 108);
 constexpr QColor rasterLeeg(200, 200, 200);
 constexpr QColor rasterGevuld(210, 210, 210);
 } // namespace kleuren

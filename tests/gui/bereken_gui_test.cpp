@@ -132,6 +132,18 @@ TEST_F(Bereken, AnEmptyCriterionGivesItsMessageAndTheFocusAndKeepsTheList) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
+TEST_F(Bereken, ACriterionThatCannotBeUsedIsReportedOnceThoughItIsTooHighAsWell) {
+    proef.typ("txt1_1", "99999");
+    proef.klik("cmd1_1");
+    ASSERT_EQ(meldingen().size(), 1U);
+    EXPECT_EQ(meldingen()[0].tekst, "Geef bij lijn A een heel getal als minimum aantal zittingen.");
+    EXPECT_TRUE(proef.vind<QWidget>("txt1_1").hasFocus());
+    QTest::keyClick(&proef.vind<QWidget>("txt1_1"), Qt::Key_Tab);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(meldingen().size(), 2U) << "now it is left as it was";
+    EXPECT_EQ(meldingen()[1].tekst, "99999 aantal zittingen bij lijn A niet goed! Maximaal 20");
+}
+
 TEST_F(Bereken, AMalformedFileIsReportedOnceAndKeepsTheList) {
     proef.typ("txt1_1", "3");
     proef.klik("cmd1_1");

@@ -6,6 +6,8 @@
 
 #include <QListWidget>
 
+#include <sys/fsuid.h>
+
 #include "vensterproef.h"
 
 namespace lauwerkrans::proef {
@@ -100,6 +102,47 @@ TEST_F(InstellingenVenster, SettingsThatCannotBeWrittenAreReportedAndTheProgramE
                            "met die naam.",
                        Icoon::Uitroep}));
     EXPECT_FALSE(proef.venster->isVisible());
+}
+
+/// While it lives the user may not write, the administrator neither.
+class ZonderRechten {
+public:
+    explicit ZonderRechten(std::filesystem::path map) : map_(std::move(map)) {
+        namespace fs = std::filesystem;
+        fs::permissions(map_, fs::perms::owner_write, fs::perm_options::remove);
+        constexpr unsigned niemand = 65534;
+        gebruiker_ = static_cast<unsigned>(::setfsuid(niemand)); // without effect for a plain user
+    }
+    ZonderRechten(const ZonderRechten&) = delete;
+    ZonderRechten(ZonderRechten&&) = delete;
+    ZonderRechten& operator=(const ZonderRechten&) = delete;
+    ZonderRechten& operator=(ZonderRechten&&) = delete;
+    ~ZonderRechten() {
+        ::setfsuid(gebruiker_);
+        std::filesystem::permissions(map_, std::filesystem::perms::owner_write,
+                                     std::filesystem::perm_options::add);
+    }
+
+private:
+    std::filesystem::path map_;
+    unsigned gebruiker_;
+};
+
+TEST_F(InstellingenVenster, AFolderThatIsReadOnlyIsReportedOnceAndTheOldFileStays) {
+    schrijfIni("__TXT1=13\r\n");
+    proef.start();
+    proef.typ("txt1_1", "9");
+    {
+        const ZonderRechten zonder(proef.competitie.map().map() / "Lauwerkrans");
+        proef.klik("cmdEinde");
+    }
+    ASSERT_EQ(proef.competitie.meldingen.getoond.size(), 1U);
+    EXPECT_EQ(proef.competitie.meldingen.getoond[0],
+              (Melding{"Het bestand '" + proef.competitie.map().pad() +
+                           "/Lauwerkrans/Lauwr.ini' kan niet worden geschreven: geen toegang.",
+                       Icoon::Uitroep}));
+    EXPECT_FALSE(proef.venster->isVisible());
+    EXPECT_EQ(ini(), "__TXT1=13\r\n");
 }
 
 TEST_F(InstellingenVenster, CriteriaSurviveWhenTheLinesCannotBeRead) {

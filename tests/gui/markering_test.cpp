@@ -40,6 +40,18 @@ TEST_F(Markering, IsNotThereAtTheStart) {
     EXPECT_FALSE(lijn("Line21").zichtbaar);
 }
 
+TEST_F(Markering, HasItsPlaceOfTheDesignUntilARowIsMarked) {
+    const double mm = 25.4 / 1440; // of a twip
+    EXPECT_DOUBLE_EQ(lijn("Line20").x1, 360 * mm);
+    EXPECT_DOUBLE_EQ(lijn("Line20").x2, 3840 * mm);
+    EXPECT_DOUBLE_EQ(lijn("Line20").y1, 840 * mm);
+    EXPECT_DOUBLE_EQ(lijn("Line20").y2, 840 * mm);
+    EXPECT_DOUBLE_EQ(lijn("Line21").x1, 360 * mm);
+    EXPECT_DOUBLE_EQ(lijn("Line21").x2, 3840 * mm);
+    EXPECT_DOUBLE_EQ(lijn("Line21").y1, 1080 * mm);
+    EXPECT_DOUBLE_EQ(lijn("Line21").y2, 1080 * mm);
+}
+
 TEST_F(Markering, APressMarksTheRowOverTheWholeWidth) {
     proef.klik("cmd2_1");
     druk(2, 5 + 4 * 2 + 2);
@@ -149,6 +161,12 @@ TEST_F(Markering, CtrlCCopiesTheListBetweenTabs) {
     EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(),
               "Berekening voor lijn A\nNr\tLijn\tRang\tPaar\tAantZit\tGemid %\n1\tA\t1\tJan Smit - "
               "Piet Berk\t1\t60,000\n");
+}
+
+TEST_F(Markering, CtrlCInAnEmptyGridLeavesTheClipboardAsItIs) {
+    QGuiApplication::clipboard()->setText(QStringLiteral("van mij"));
+    QTest::keyClick(&proef.vind<QWidget>("P21"), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("van mij"));
 }
 
 } // namespace

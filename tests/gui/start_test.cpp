@@ -6,58 +6,25 @@
 
 #include <filesystem>
 
+#include "startproef.h"
 #include "vensterproef.h"
 
 namespace lauwerkrans::proef {
 namespace {
 
-/// A competition of two rounds of three sessions with two lines, whose files may be taken away
-/// before the start.
-class Start : public ::testing::Test {
-protected:
-    Start() : competitie(2, 3, 2), venster(competitie.algemeen, instellingen, {}) {
-        competitie.schrijfLeden(99, {{3, "Jan", "", "Smit"}, {17, "Piet", "van", "Berkelo"}});
-        competitie.schrijfBums(2, {{3, 17}});
-        competitie.algemeen.OrvMap.clear(); // the start finds the folders itself
-        competitie.algemeen.CompetitieMap.clear();
-        competitie.algemeen.ActieveCompetitie.clear();
-        competitie.algemeen.competitie.clear();
-    }
+using Start = Startproef;
 
-    void schrijfMappen(const std::string& actief) const {
-        const std::string map = competitie.map().pad();
-        competitie.map().schrijf("Mappen.ini", "ORVMAP=" + map + "\r\nCOMMAP=" + map +
-                                                   "\\Competities\r\nACTCOM=" + actief + "\r\n");
-    }
-    bool laad() { return Form_Load(venster, competitie.algemeen, instellingen, programmaMap()); }
-    bool start() {
-        schrijfMappen("Proef");
-        return laad();
-    }
-    [[nodiscard]] std::string programmaMap() const {
-        return competitie.map().pad() + "/Lauwerkrans";
-    }
-    void verwijder(const std::string& naam) const {
-        ASSERT_TRUE(std::filesystem::remove(competitie.map().map() / naam)) << naam;
-    }
-    [[nodiscard]] const std::vector<Melding>& meldingen() const {
-        return competitie.meldingen.getoond;
-    }
-    template <class Element>
-    [[nodiscard]] Element& vind(const char* naam) const {
-        return *Vind<Element>(venster, naam);
-    }
-    [[nodiscard]] std::string kop() const {
-        return vind<KopLabel>("lblResultKop").bijschrift().toStdString();
-    }
-
-    ProefCompetitie competitie;
-    Instellingen instellingen;
-    frmMain venster;
-};
-
-constexpr const char* ledenFout = "\r\nFout bij het lezen van de Groepen!\r\n";
-const std::string geenCompData = "Geen bestand met competitiegegevens aanwezig.\r\n";
+TEST(MagStarten, TheFirstCopyGoesOnAndASecondOneSaysThatItIsThere) {
+    Meldingen meldingen;
+    const std::string naam =
+        "lauwerkrans-start-" + std::to_string(QCoreApplication::applicationPid());
+    const systeem::EnigeKopie eerste(naam);
+    EXPECT_TRUE(MagStarten(eerste, meldingen.melder()));
+    EXPECT_TRUE(meldingen.getoond.empty());
+    EXPECT_FALSE(MagStarten(systeem::EnigeKopie(naam), meldingen.melder()));
+    ASSERT_EQ(meldingen.getoond.size(), 1U);
+    EXPECT_EQ(meldingen.getoond[0], (Melding{"Het programma is al gestart!...", Icoon::Geen}));
+}
 
 TEST_F(Start, WithoutFolderConfigurationSaysSoAndDoesNotGoOn) {
     EXPECT_FALSE(laad());
@@ -233,6 +200,15 @@ TEST_F(Start, GivesTheFirstCriterionTheFocus) {
     venster.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&venster));
     EXPECT_TRUE(vind<QWidget>("txt1_1").hasFocus());
+}
+
+TEST_F(Start, WithoutActiveCompetitionGivesTheExplanationTheFocus) {
+    schrijfMappen("");
+    ASSERT_TRUE(laad());
+    venster.show();
+    venster.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&venster));
+    EXPECT_TRUE(vind<QWidget>("cmdToelichting").hasFocus());
 }
 
 TEST_F(Start, OfAnotherCompetitionForgetsTheResultOfTheFirst) {

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 
 #include "ui/toelichting_tekst.h"
 #include "vensterproef.h"
@@ -81,6 +82,23 @@ TEST_F(Toelichting, IsNeverSmallerThanItsMinimum) {
     venster->resize(100, 100);
     EXPECT_EQ(venster->width(), 261);  // (4000 - 85) twips
     EXPECT_EQ(venster->height(), 237); // (4000 - 440) twips
+}
+
+TEST_F(Toelichting, CanBeReadToTheEndAndNotChanged) {
+    const QString eerst = tekst().toPlainText();
+    QTest::keyClick(&tekst(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(&tekst(), QStringLiteral("weg"));
+    QTest::keyClick(&tekst(), Qt::Key_Delete);
+    QTest::keyClick(&tekst(), Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(tekst().toPlainText(), eerst);
+    venster->resize(300, 300);
+    QCoreApplication::processEvents();
+    auto* schuif = tekst().verticalScrollBar();
+    EXPECT_GT(schuif->maximum(), 0);
+    schuif->setValue(schuif->maximum());
+    QTextCursor einde(tekst().document());
+    einde.movePosition(QTextCursor::End);
+    EXPECT_LE(tekst().cursorRect(einde).bottom(), tekst().viewport()->height());
 }
 
 TEST_F(Toelichting, OpensAgainWithTheSameText) {

@@ -128,6 +128,17 @@ TEST(CompBums, ThatCannotBeOpenedArePassedOver) {
     comp.schrijf(3, Bestand({"3,4,BUM"}));
     EXPECT_EQ(comp.gelezen(), (Lijst{"01,1,2,BUM", "03,3,4,BUM"}));
 }
+
+TEST(CompBums, OfARoundThatCannotBeListedGiveNoError) {
+    proef::ProefCompetitie proef(2, 1, 1);
+    proef.schrijfLeden(9, {});
+    proef.schrijfBums(1, {{14, 305}});
+    proef.laad();
+    proef.map().maakOnleesbaar(proef.competitieMap() + "Ronde-2");
+    EXPECT_NO_THROW(LeesCompBums(proef.algemeen));
+    EXPECT_EQ(proef.algemeen.BumLijst.bovengrens(), 0U);
+    EXPECT_EQ(proef.meldingen.getoond, std::vector<Melding>{});
+}
 #endif
 
 TEST(CompBums, AreFoundInAnotherLetterCaseAndWithAByteOrderMark) {
