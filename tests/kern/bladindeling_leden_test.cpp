@@ -1,6 +1,8 @@
 // The pages of a member's control list.
 #include "output/bladindeling_leden.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "bladproef.h"

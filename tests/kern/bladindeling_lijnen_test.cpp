@@ -1,6 +1,8 @@
 // The pages of the champion list: the places on a page.
 #include "output/bladindeling_lijnen.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "bladproef.h"

@@ -2,6 +2,7 @@
 #include "output/bladindeling_totaal.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <gtest/gtest.h>
 
@@ -39,6 +40,7 @@ std::vector<std::string> OpHoogte(const Blad& blad, double y) {
     std::sort(gevonden.begin(), gevonden.end(),
               [](const BladTekst& a, const BladTekst& b) { return a.x < b.x; });
     std::vector<std::string> teksten;
+    teksten.reserve(gevonden.size());
     for (const BladTekst& tekst : gevonden)
         teksten.push_back(tekst.tekst);
     return teksten;
