@@ -1,11 +1,15 @@
-// Reading and calculating, each beside the bare reading of the same files in the same run: open,
-// read into one buffer, close. The counters are ratios to that bare reading.
+// Reading and calculating, and the layout of pages. Reading and calculating stand each beside the
+// bare reading of the same files in the same run: open, read into one buffer, close. The counters
+// are ratios to that bare reading.
 #include <benchmark/benchmark.h>
 
 #include "calc/lijnen.h"
 #include "calc/modBereken.h"
 #include "competitie.h"
 #include "data/modORV_perczit.h"
+#include "lijst.h"
+#include "output/bladindeling_lijnen.h"
+#include "output/bladindeling_totaal.h"
 
 namespace {
 
@@ -79,8 +83,24 @@ void Meet(benchmark::State& state, const Maat& maat) {
     }
 }
 
+/// Lays a list out anew and fills its first page; the letters have one width.
+template <class Indeling>
+void DeelIn(benchmark::State& state) {
+    const Uitvoer uitvoer = MaakLijst(static_cast<std::size_t>(state.range(0)));
+    const auto meting = [](const std::string& tekst, const Letter& letter) {
+        return static_cast<double>(tekst.size()) * letter.punten / 5;
+    };
+    for (auto _ : state) {
+        const Indeling bladen(uitvoer, bladmaat::a4Hoogte);
+        benchmark::DoNotOptimize(bladen.blad(1, meting).teksten.size());
+        state.counters["bladen"] = static_cast<double>(bladen.aantal());
+    }
+}
+
 } // namespace
 
+BENCHMARK_TEMPLATE(DeelIn, BladenLijnen)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(DeelIn, BladenTotaal)->Arg(1000)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Meet, club, club)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Meet, groot, groot)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Meet, grootst, grootst)->Iterations(1)->Unit(benchmark::kMillisecond);

@@ -1,12 +1,19 @@
 // From the press of a button to the painted list, on the real window: the control list of all
-// lines, and one step of its scroll bar. Run it with QT_QPA_PLATFORM=offscreen.
+// lines, and one step of its scroll bar; and the drawing of a list's first page. Run it with
+// QT_QPA_PLATFORM=offscreen.
 #include <QApplication>
+#include <QImage>
+#include <QPainter>
 #include <QScrollBar>
 
 #include <benchmark/benchmark.h>
 
 #include "app/frmMain_start.h"
 #include "competitie.h"
+#include "lijst.h"
+#include "output/afdruk.h"
+#include "output/bladindeling_lijnen.h"
+#include "output/bladindeling_totaal.h"
 #include "ui/ontwerp.h"
 #include "ui/stijl.h"
 
@@ -58,8 +65,46 @@ void Meet(benchmark::State& state, const Maat& maat) {
     }
 }
 
+/// Lays a list out anew and draws its first page at 100 %: of a long page the part of one sheet.
+void TekenEersteBlad(const Bladen& bladen) {
+    constexpr double schaal = 96 / 25.4; // pixels per millimetre
+    QImage beeld(qRound(bladmaat::bladBreedte * schaal), qRound(bladmaat::a4Hoogte * schaal),
+                 QImage::Format_RGB32);
+    beeld.fill(Qt::white);
+    QPainter schilder(&beeld);
+    TekenBlad(schilder, bladen.blad(1, MeetBladtekst, {0, bladmaat::a4Hoogte}), schaal);
+    schilder.end();
+    benchmark::DoNotOptimize(beeld.constBits());
+}
+
+/// The first time, in which fonts are looked up, and the median of those after it.
+template <class Maak>
+void MeetBlad(benchmark::State& state, Maak maak) {
+    constexpr int keren = 21;
+    const Uitvoer uitvoer = MaakLijst(1000);
+    std::vector<double> tijden;
+    for (auto _ : state) {
+        for (int i = 0; i <= keren; ++i)
+            tijden.push_back(Duur([&] { TekenEersteBlad(maak(uitvoer)); }));
+        state.counters["eerste_ms"] = tijden.front() * 1e3;
+        tijden.erase(tijden.begin());
+        state.counters["blad_ms"] = Mediaan(tijden) * 1e3;
+    }
+}
+
+void BladLijnen(benchmark::State& state) {
+    MeetBlad(state,
+             [](const Uitvoer& uitvoer) { return BladenLijnen(uitvoer, bladmaat::a4Hoogte); });
+}
+
+void BladTotaal(benchmark::State& state) {
+    MeetBlad(state, [](const Uitvoer& uitvoer) { return BladenTotaal(uitvoer); });
+}
+
 } // namespace
 
+BENCHMARK(BladLijnen)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BladTotaal)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Meet, club, club)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Meet, groot, groot)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Meet, grootst, grootst)->Iterations(1)->Unit(benchmark::kMillisecond);

@@ -26,7 +26,7 @@ public:
         if (gevuld_ > 0 && !past(hoogte)) volgendBlad();
         if (past(hoogte)) {
             zet({eersteRij, rijen, blad_, begin + gevuld_, 1}, hoogte);
-        } else if (ruimte_ / hoogte >= kleinsteFactor) {
+        } else if (ruimte_ >= kleinsteFactor * hoogte - speling) {
             zet({eersteRij, rijen, blad_, begin, ruimte_ / hoogte}, ruimte_);
         } else {
             verdeel(eersteRij, rijen);

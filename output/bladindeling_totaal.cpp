@@ -44,7 +44,7 @@ Blad BladenTotaal::blad(std::size_t nummer, const Meting& meting, const Uitsnede
     const std::size_t laatste = std::min(rijen_, nummer * opBlad_);
     for (std::size_t i = eerste; i <= laatste; ++i) {
         const double y = rijenTop + static_cast<double>(i - eerste) * rij;
-        if (y > deel.tot) break;
+        if (y - boveStreep > deel.tot) break; // a row begins at the rule above it
         if (y + rij >= deel.van) zetRij(zetter, i, y);
     }
     return zetter.klaar();
