@@ -145,6 +145,7 @@ TEST_F(Programma, ASecondCopySaysSoAndEndsWhileTheFirstGoesOn) {
 TEST_F(Programma, OfTwentyStartedAtOnceOneShowsItsWindow) {
     constexpr int aantal = 20;
     std::vector<std::unique_ptr<Kopie>> kopieen;
+    kopieen.reserve(aantal);
     for (int i = 0; i < aantal; ++i)
         kopieen.push_back(std::make_unique<Kopie>(programma));
     int vensters = 0;
