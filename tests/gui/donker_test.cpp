@@ -90,12 +90,7 @@ Beelden MaakBeelden() {
 
 class DonkerBureaublad : public ::testing::Test {
 protected:
-    DonkerBureaublad() = default;
-    DonkerBureaublad(const DonkerBureaublad&) = delete;
-    DonkerBureaublad(DonkerBureaublad&&) = delete;
-    DonkerBureaublad& operator=(const DonkerBureaublad&) = delete;
-    DonkerBureaublad& operator=(DonkerBureaublad&&) = delete;
-    ~DonkerBureaublad() override { ZetStijl(*qApp); }
+    void TearDown() override { ZetStijl(*qApp); }
 
     static void vergelijk(const Beelden& donker, const Beelden& licht) {
         EXPECT_FALSE(donker.bericht.isNull());

@@ -72,13 +72,14 @@ private:
     QProcess proces_;
 };
 
-/// Waits until no other copy of that name runs, and is the one copy from then on.
-std::unique_ptr<systeem::EnigeKopie> WachtOp(const std::string& naam) {
+/// Waits so long (milliseconds) until no other copy of that name runs, and is the one copy from
+/// then on.
+std::unique_ptr<systeem::EnigeKopie> WachtOp(const std::string& naam, int duur) {
     QElapsedTimer klok;
     klok.start();
     for (;;) {
         auto kopie = std::make_unique<systeem::EnigeKopie>(naam);
-        if (kopie->gelukt() || klok.elapsed() > geduld) return kopie;
+        if (kopie->gelukt() || klok.elapsed() > duur) return kopie;
         QThread::msleep(50);
     }
 }
@@ -86,7 +87,7 @@ std::unique_ptr<systeem::EnigeKopie> WachtOp(const std::string& naam) {
 class Programma : public ::testing::Test {
 protected:
     /// The tests of this user take turns, and nobody's own copy may run.
-    Programma() : beurt(WachtOp("lauwerkrans-programmaproef")), competitie(1, 1, 1) {
+    Programma() : beurt(WachtOp("lauwerkrans-programmaproef", geduld)), competitie(1, 1, 1) {
         competitie.schrijfLeden(9, {});
         const std::string map = competitie.map().pad();
         competitie.map().schrijf("Mappen.ini", "ORVMAP=" + map + "\r\nCOMMAP=" + map +
@@ -106,7 +107,7 @@ protected:
     }
     void SetUp() override {
         ASSERT_TRUE(beurt->gelukt());
-        ASSERT_TRUE(WachtOp("lauwerkrans")->gelukt()) << "a copy of the program is running";
+        ASSERT_TRUE(WachtOp("lauwerkrans", 5000)->gelukt()) << "a copy of the program is running";
     }
 
     [[nodiscard]] bool heeftIni() const {
@@ -144,6 +145,7 @@ TEST_F(Programma, ASecondCopySaysSoAndEndsWhileTheFirstGoesOn) {
 TEST_F(Programma, OfTwentyStartedAtOnceOneShowsItsWindow) {
     constexpr int aantal = 20;
     std::vector<std::unique_ptr<Kopie>> kopieen;
+    kopieen.reserve(aantal);
     for (int i = 0; i < aantal; ++i)
         kopieen.push_back(std::make_unique<Kopie>(programma));
     int vensters = 0;
