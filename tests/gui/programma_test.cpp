@@ -107,7 +107,7 @@ protected:
     }
     void SetUp() override {
         ASSERT_TRUE(beurt->gelukt());
-        ASSERT_TRUE(WachtOp("lauwerkrans", 5000)->gelukt()) << "a copy of the program is running";
+        ASSERT_TRUE(WachtOp("lauwerkrans", 30'000)->gelukt()) << "a copy of the program is running";
     }
 
     [[nodiscard]] bool heeftIni() const {
