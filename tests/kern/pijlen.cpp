@@ -23,14 +23,13 @@ struct Plaats {
 };
 
 /// The first that fits counts, so files come before their folder.
-constexpr std::array<Plaats, 11> plaatsen = {{
+constexpr std::array<Plaats, 10> plaatsen = {{
     {"data/", Laag::Data},
     {"app/modMappen.", Laag::Instellingen},
     {"app/modInstellingen.", Laag::Instellingen},
     {"calc/", Laag::Calc},
     {"output/uitvoer.", Laag::Lijstbestanden},
     {"output/modMaak", Laag::Lijstbestanden},
-    {"output/lijstblad", Laag::Lijstbestanden},
     {"output/bladindeling", Laag::Lijstbestanden},
     {"ui/", Laag::Vensters},
     {"output/", Laag::Uitvoervensters},

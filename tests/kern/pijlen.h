@@ -2,7 +2,7 @@
 // and those below it:
 //
 //   data/ < app/modMappen, app/modInstellingen < calc/
-//         < output/uitvoer, output/modMaak*, output/bladindeling*, output/lijstblad*
+//         < output/uitvoer, output/modMaak*, output/bladindeling*
 //         < ui/ < the other files of output/ < the other files of app/
 //
 // The first four make the core, which knows no Qt and, but for data/systeem_posix.cpp and

@@ -23,14 +23,22 @@ struct Lid {
 };
 
 /// Files of every layer, from the lowest to the highest.
-const std::vector<Lid> leden = {{0, "data/getallen.h"},       {0, "data/systeem_posix.cpp"},
-                                {1, "app/modMappen.h"},       {1, "app/modInstellingen.cpp"},
-                                {2, "calc/modBereken.h"},     {3, "output/uitvoer.h"},
-                                {3, "output/modMaakCSV.h"},   {3, "output/modMaakHtml.cpp"},
-                                {3, "output/bladindeling.h"}, {3, "output/bladindeling_TI.cpp"},
-                                {3, "output/lijstblad.h"},    {4, "ui/frmMain.h"},
-                                {4, "ui/paneel_P10.cpp"},     {5, "output/afdruk.h"},
-                                {5, "output/frmPrinten.cpp"}, {6, "app/main.cpp"},
+const std::vector<Lid> leden = {{0, "data/getallen.h"},
+                                {0, "data/systeem_posix.cpp"},
+                                {1, "app/modMappen.h"},
+                                {1, "app/modInstellingen.cpp"},
+                                {2, "calc/modBereken.h"},
+                                {3, "output/uitvoer.h"},
+                                {3, "output/modMaakCSV.h"},
+                                {3, "output/modMaakHtml.cpp"},
+                                {3, "output/bladindeling.h"},
+                                {3, "output/bladindeling_TI.cpp"},
+                                {4, "ui/frmMain.h"},
+                                {4, "ui/paneel_P10.cpp"},
+                                {5, "output/afdruk.h"},
+                                {5, "output/frmPrinten.cpp"},
+                                {5, "output/uitvoervensters.h"},
+                                {6, "app/main.cpp"},
                                 {6, "app/frmMain_start.h"}};
 constexpr std::size_t hoogsteVanKern = 3;
 
