@@ -20,7 +20,7 @@ void Uitvoervensters::cmdPrinten_Click(frmMain& hoofdvenster) {
     }
 }
 
-void Uitvoervensters::PrintZDregels(frmMain& hoofdvenster) {
+void Uitvoervensters::PrintZDregels(frmMain& hoofdvenster) const {
     const auto lijst = hoofdvenster.raster().lijst();
     const Printopdracht opdracht{QString::fromStdString(lijst->titel()),
                                  [&lijst](double hoogte) -> std::unique_ptr<Bladen> {

@@ -36,7 +36,7 @@ public:
     void sluit();
 
 private:
-    void PrintZDregels(frmMain& hoofdvenster);
+    void PrintZDregels(frmMain& hoofdvenster) const;
     void toonVoorbeeld(frmMain& hoofdvenster);
     [[nodiscard]] Uitvoer maakUitvoer(const frmMain& hoofdvenster) const;
     [[nodiscard]] Printvenster& voorbeeldVoor(frmMain& hoofdvenster);

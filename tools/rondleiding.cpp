@@ -11,7 +11,6 @@
 #include <QTextStream>
 
 #include <array>
-#include <stdexcept>
 
 #include "app/frmMain_start.h"
 #include "tools/generator.h"
@@ -99,13 +98,15 @@ private:
         gelukt_ = false;
     }
 
-    /// The window of this name that is on show.
-    static QWidget& anderVenster(const char* venster) {
+    /// The window of this name that is on show, or the main window when there is none.
+    QWidget& anderVenster(const char* venster) {
         for (QWidget* kandidaat : QApplication::topLevelWidgets()) {
             if (kandidaat->isVisible() && kandidaat->objectName() == QLatin1String(venster))
                 return *kandidaat;
         }
-        throw std::runtime_error(venster);
+        QTextStream(stderr) << "Er is geen venster " << venster << "." << Qt::endl;
+        gelukt_ = false;
+        return venster_;
     }
 
     void bewaarAndere(const char* venster, const char* naam) {

@@ -36,7 +36,7 @@ public:
         if (!QByteArrayView(context).contains("Print")) return {};
         const auto* woord =
             std::find_if(woorden.begin(), woorden.end(), [bron](const Woord& kandidaat) {
-                return !std::strcmp(kandidaat.bron, bron);
+                return std::strcmp(kandidaat.bron, bron) == 0;
             });
         return woord == woorden.end() ? QString() : QString::fromUtf8(woord->nederlands);
     }
