@@ -39,6 +39,13 @@ pakketten_toetsen=(
   poppler-utils   # reads the printed pages back: texts and their places
 )
 
+# The fuzzers.
+# shellcheck disable=SC2034
+pakketten_fuzz=(
+  clang-14        # the compiler that makes them
+  libclang-rt-14-dev # and what it links into them
+)
+
 # What .ci/run checks beyond the tests.
 # shellcheck disable=SC2034
 pakketten_ci=(
