@@ -46,6 +46,12 @@ pakketten_fuzz=(
   libclang-rt-14-dev # and what it links into them
 )
 
+# Counting what the tests take.
+# shellcheck disable=SC2034
+pakketten_dekking=(
+  gcovr           # adds up the compiler's counts
+)
+
 # What .ci/run checks beyond the tests.
 # shellcheck disable=SC2034
 pakketten_ci=(

@@ -149,5 +149,32 @@ TEST_F(Overzicht, ForCheckingAMemberHoldsOnlyThatMembersPairs) {
     EXPECT_TRUE(controle({"AB", true, "ZZ"}).empty());
 }
 
+/// A calculation of lines A and C with the criteria 3, 4 and 5.
+Uitslag Berekend() {
+    Uitslag uitslag;
+    uitslag.GekozenLijnen = "AC";
+    uitslag.criteria = {"3", "4", "5"};
+    return uitslag;
+}
+
+TEST(Geldt, ForTheCriteriaOfItsOwnLinesOnly) {
+    EXPECT_TRUE(Geldt(Berekend(), {"3", "4", "5"}, {}));
+    EXPECT_TRUE(Geldt(Berekend(), {"3", "9", "5"}, {}));
+    EXPECT_FALSE(Geldt(Berekend(), {"2", "4", "5"}, {}));
+    EXPECT_FALSE(Geldt(Berekend(), {"3", "4", ""}, {}));
+}
+
+TEST(Geldt, ForTheOptionsThatTakePartInTheCalculation) {
+    const Criteria criteria = {"3", "4", "5"};
+    Opties opties;
+    opties.zitDetails = true;
+    EXPECT_TRUE(Geldt(Berekend(), criteria, opties));
+    for (bool Opties::*optie : {&Opties::gewogen, &Opties::gemAlleLijnen, &Opties::buiMed}) {
+        Opties anders;
+        anders.*optie = true;
+        EXPECT_FALSE(Geldt(Berekend(), criteria, anders));
+    }
+}
+
 } // namespace
 } // namespace lauwerkrans
