@@ -39,6 +39,11 @@ std::string Plaats(const Fout& fout) {
     return plaats + ":\r\n\r\n";
 }
 
+std::string Velden(std::int64_t aantal) {
+    if (aantal == 1) return "er staat 1 veld";
+    return std::string("er staan ").append(std::to_string(aantal)).append(" velden");
+}
+
 std::string PercentageTekst(const Fout& fout) {
     return "Het percentage " + Aanhaling(Begin(fout.tekst)) + " van " + fout.wie + " in ronde " +
            std::to_string(fout.ronde) + ", zitting " + std::to_string(fout.zitting) +
@@ -70,8 +75,7 @@ std::string FoutTekst(const Fout& fout) {
     case FoutSoort::GetalBuitenGrenzen:
         return Plaats(fout) + "het getal " + Aanhaling(tekst) + " kan niet kloppen.";
     case FoutSoort::AantalVelden:
-        return Plaats(fout) + "er staan " + std::to_string(fout.aantal) +
-               " velden in plaats van 7.\r\n\r\n" + tekst;
+        return Plaats(fout) + Velden(fout.aantal) + " in plaats van 7.\r\n\r\n" + tekst;
     case FoutSoort::TeVeelSpellen:
         return Plaats(fout) + "het aantal spellen " + Aanhaling(tekst) + " kan niet kloppen.";
     case FoutSoort::TeVeelRegels:

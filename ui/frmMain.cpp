@@ -118,11 +118,29 @@ bool frmMain::aangevinkt(const char* naam) const {
     return Vind<QCheckBox>(*this, naam)->isChecked();
 }
 
+/// Puts another list on show. When that fails the last one stays, with what belongs to it: caption
+/// and state of the output button and whether it is a member's list.
+void frmMain::vervangLijst(const std::function<void()>& werk) {
+    const bool ledenlijst = PersoonFilterAan_;
+    const bool aan = printbaar();
+    try {
+        werk();
+    } catch (...) {
+        PersoonFilterAan_ = ledenlijst;
+        zetUitvoerBijschrift(ledenlijst);
+        zetPrintbaar(aan);
+        throw;
+    }
+}
+
 void frmMain::cmd1_Click(std::size_t rij) {
     const Zandloper zandloper;
-    PersoonFilterAan_ = false;
-    zetUitvoerBijschrift(false);
-    bewaak([this, rij] { bereken(LijnenVanRij(algemeen_.LijnTabel, rij)); });
+    bewaak([this, rij] {
+        vervangLijst([this, rij] {
+            ledenlijstKlaar();
+            bereken(LijnenVanRij(algemeen_.LijnTabel, rij));
+        });
+    });
 }
 
 void frmMain::bereken(const std::string& lijnen) {
@@ -143,10 +161,13 @@ void frmMain::berekenZoNodig() {
 
 void frmMain::cmd2_Click(std::size_t rij) {
     const Zandloper zandloper;
-    PersoonFilterAan_ = false;
-    zetUitvoerBijschrift(false);
-    zetPrintbaar(false);
-    bewaak([this, rij] { toonControlelijst({LijnenVanRij(algemeen_.LijnTabel, rij), false, {}}); });
+    bewaak([this, rij] {
+        vervangLijst([this, rij] {
+            ledenlijstKlaar();
+            zetPrintbaar(false);
+            toonControlelijst({LijnenVanRij(algemeen_.LijnTabel, rij), false, {}});
+        });
+    });
 }
 
 void frmMain::toonControlelijst(const Selectie& selectie) {
@@ -158,7 +179,10 @@ void frmMain::toonControlelijst(const Selectie& selectie) {
 }
 
 void frmMain::cmdControleLijstLid_Click() {
-    const bool ledenlijst = PersoonFilterAan_;
+    vervangLijst([this] { zoekLid(); });
+}
+
+void frmMain::zoekLid() {
     zetUitvoerBijschrift(true);
     PersoonFilterAan_ = false;
     const std::string gezocht =
@@ -170,13 +194,7 @@ void frmMain::cmdControleLijstLid_Click() {
         return;
     }
     const Zandloper zandloper;
-    try {
-        toonControlelijst({AlleLijnen(algemeen_.LijnTabel), true, gezocht});
-    } catch (...) { // the list on show stays, and what belongs to it
-        PersoonFilterAan_ = ledenlijst;
-        zetUitvoerBijschrift(ledenlijst);
-        throw;
-    }
+    toonControlelijst({AlleLijnen(algemeen_.LijnTabel), true, gezocht});
     PersoonFilterAan_ = true;
     zetPrintbaar(raster_->lijst()->rijen() > 0);
 }

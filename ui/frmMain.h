@@ -122,6 +122,8 @@ private:
     void deelIn(); // the layout rules
     void bereken(const std::string& lijnen);
     void toonControlelijst(const Selectie& selectie);
+    void zoekLid();
+    void vervangLijst(const std::function<void()>& werk);
     void zetUitvoerBijschrift(bool ledenlijst);
     [[nodiscard]] bool aangevinkt(const char* naam) const;
 

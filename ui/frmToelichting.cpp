@@ -49,6 +49,7 @@ void frmToelichting::toonOver(const QWidget& venster) {
         move(vak.topLeft());
         geplaatst_ = true;
     }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
     activateWindow();

@@ -256,6 +256,33 @@ TEST_F(BerichtenVenster, AMemberSearchThatFailsLeavesTheOutputButtonOfTheListOnS
     EXPECT_EQ(proef.kop(), "Controlelijst voor SMIT");
 }
 
+TEST_F(BerichtenVenster, AControlThatFailsLeavesTheRankingOnShowPrintable) {
+    proef.typ("txt1_1", "1");
+    proef.klik("cmd1_1");
+    ASSERT_TRUE(proef.venster->printbaar());
+    proef.competitie.schrijfZitting(1, 1, {"geen regel"});
+    bijMelding = [this] { EXPECT_TRUE(proef.venster->printbaar()) << "under the message too"; };
+    proef.klik("cmd2_1");
+    EXPECT_EQ(teksten.size(), 1U);
+    EXPECT_EQ(proef.kop(), "Berekening voor lijn A");
+    EXPECT_TRUE(proef.venster->printbaar());
+}
+
+TEST_F(BerichtenVenster, ACalculationOrControlThatFailsLeavesTheOutputButtonOfTheMemberList) {
+    const auto& knop = proef.vind<QPushButton>("cmdPrinten");
+    proef.vind<QLineEdit>("txtPersoon").setText(QStringLiteral("smit"));
+    proef.klik("cmdControleLijstLid");
+    proef.competitie.schrijfZitting(1, 1, {"geen regel"});
+    for (const char* naam : {"cmd1_1", "cmd2_1"}) {
+        proef.klik(naam);
+        EXPECT_EQ(knop.text(), QStringLiteral("Print deze controlelijst")) << naam;
+        EXPECT_TRUE(proef.venster->PersoonFilterAan()) << naam;
+        EXPECT_TRUE(proef.venster->printbaar()) << naam;
+    }
+    EXPECT_EQ(teksten.size(), 2U);
+    EXPECT_EQ(proef.kop(), "Controlelijst voor SMIT");
+}
+
 TEST_F(BerichtenVenster, TheMessageOfABoxLeavesNoneBehind) {
     proef.typ("txt1_1", "21");
     proef.klik("cmd1_1");

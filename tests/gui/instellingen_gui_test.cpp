@@ -79,6 +79,27 @@ TEST_F(InstellingenVenster, ARestartBringsEverythingBack) {
     EXPECT_EQ(tweede.rijen().criteria().at(1), "9");
 }
 
+TEST_F(InstellingenVenster, AnotherCompetitionGetsTheSameValues) {
+    proef.start();
+    proef.typ("txt1_2", "9");
+    proef.klik("chkBuiMed");
+    proef.klik("cmdEinde");
+    const std::string map = proef.competitie.map().pad();
+    proef.competitie.map().schrijf("Competities/Ander/CompData.txt", "a,b,c,d,e,f,g,0,1,1,0\r\n");
+    proef.competitie.map().schrijf("Competities/Ander/Ronde-1/RondeData.txt",
+                                   "a,b,c,d,e,f,g,2\r\n");
+    proef.competitie.map().schrijf("Mappen.ini", "ORVMAP=" + map + "\r\nCOMMAP=" + map +
+                                                     "\\Competities\r\nACTCOM=Ander\r\n");
+    Instellingen instellingen;
+    Algemeen algemeen;
+    algemeen.meld = proef.competitie.meldingen.melder();
+    frmMain tweede(algemeen, instellingen, {});
+    ASSERT_TRUE(Form_Load(tweede, algemeen, instellingen, map + "/Lauwerkrans"));
+    ASSERT_EQ(algemeen.ActieveCompetitie, "Ander");
+    EXPECT_TRUE(tweede.opties().buiMed);
+    EXPECT_EQ(tweede.rijen().criteria(), (Criteria{"", "9"}));
+}
+
 TEST_F(InstellingenVenster, WithoutACompetitionNothingIsWritten) {
     schrijfIni("__CHK1=1\r\nvan mij\r\n");
     const std::string map = proef.competitie.map().pad();

@@ -109,6 +109,20 @@ TEST_F(Toelichting, OpensAgainWithTheSameText) {
     EXPECT_TRUE(tekst().toPlainText().startsWith(QStringLiteral("Toelichting op het gebruik")));
 }
 
+TEST_F(Toelichting, ComesBackWhenItWasMinimised) {
+    venster->showMinimized();
+    ASSERT_TRUE(venster->isMinimized());
+    proef.klik("cmdToelichting");
+    EXPECT_FALSE(venster->isMinimized());
+    EXPECT_TRUE(venster->isVisible());
+}
+
+TEST_F(Toelichting, StaysMaximisedWhenItIsAskedForAgain) {
+    venster->showMaximized();
+    proef.klik("cmdToelichting");
+    EXPECT_TRUE(venster->isMaximized());
+}
+
 TEST_F(Toelichting, ClosesWithTheProgram) {
     proef.klik("cmdEinde");
     EXPECT_FALSE(venster->isVisible());

@@ -64,6 +64,14 @@ TEST(FoutTekst, OfALineWithTheWrongNumberOfFields) {
                   "', regel 31:\r\n\r\ner staan 1600 velden in plaats van 7.\r\n\r\nabc");
 }
 
+TEST(FoutTekst, OfALineWithOneFieldIsInTheSingular) {
+    Fout fout = VolleFout(FoutSoort::AantalVelden);
+    fout.aantal = 1;
+    EXPECT_EQ(FoutTekst(fout),
+              "Fout in het bestand '" + getoondPad +
+                  "', regel 31:\r\n\r\ner staat 1 veld in plaats van 7.\r\n\r\nabc");
+}
+
 TEST(FoutTekst, OfABoardCountThatCannotBeTrue) {
     EXPECT_EQ(FoutTekst(VolleFout(FoutSoort::TeVeelSpellen)),
               "Fout in het bestand '" + getoondPad +
