@@ -12,6 +12,7 @@
 #include "ui/pictogram.h"
 #include "ui/stijl.h"
 #include "ui/taal.h"
+#include "ui/voorgrond.h"
 
 int main(int argc, char** argv) {
     using namespace lauwerkrans;
@@ -23,8 +24,9 @@ int main(int argc, char** argv) {
     Algemeen algemeen;
     Instellingen instellingen;
     frmMain* hoofdvenster = nullptr;
-    algemeen.meld = [&hoofdvenster](const Melding& melding) {
-        QWidget* voorop = QApplication::activeWindow();
+    const Voorgrond voorgrond;
+    algemeen.meld = [&hoofdvenster, &voorgrond](const Melding& melding) {
+        QWidget* voorop = voorgrond.venster();
         ToonMelding(voorop != nullptr ? voorop : hoofdvenster, melding);
     };
 

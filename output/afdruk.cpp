@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace lauwerkrans {
 
@@ -46,6 +47,14 @@ const Lettersoort& SoortVan(const Letter& letter) {
     return soorten.at(smal + (letter.vet ? 1 : 0));
 }
 
+/// The thickness of a rule in units of the painter: whole pixels of the device, at least one, else
+/// one rule would look thicker or greyer than the next.
+double Lijndikte(const QPaintDevice& vlak, double schaal) {
+    constexpr double lijndikte = 0.2; // mm
+    const double pixels = vlak.devicePixelRatioF();
+    return std::max(1.0, std::round(lijndikte * schaal * pixels)) / pixels;
+}
+
 void TekenTekst(QPainter& schilder, const BladTekst& tekst, double schaal) {
     const Lettersoort& soort = SoortVan(tekst.letter);
     // The toolkit takes points at the device's own resolution, not at the painter's scale.
@@ -72,11 +81,9 @@ double MeetBladtekst(const std::string& tekst, const Letter& letter) {
 }
 
 void TekenBlad(QPainter& schilder, const Blad& blad, double schaal) {
-    constexpr double lijndikte = 0.2; // mm
-    // On a screen whole pixels: else one rule would look greyer than the next.
     schilder.setRenderHint(QPainter::Antialiasing, false);
     schilder.setPen(
-        QPen(Qt::black, std::max(1.0, lijndikte * schaal), Qt::SolidLine, Qt::SquareCap));
+        QPen(Qt::black, Lijndikte(*schilder.device(), schaal), Qt::SolidLine, Qt::SquareCap));
     for (const BladLijn& lijn : blad.lijnen) {
         schilder.drawLine(QPointF(lijn.x1, lijn.y1) * schaal, QPointF(lijn.x2, lijn.y2) * schaal);
     }

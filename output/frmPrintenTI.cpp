@@ -54,7 +54,7 @@ void frmPrintenTI::neemKeuzeOver() {
     };
     lijst().ToonLijnen = instellingen_.ToonLijnen = stand("chkToonLijn");
     lijst().ToonZittingen = instellingen_.ToonZittingen = stand("chkToonAantZit");
-    pagineer();
+    beeld().vervang(std::make_shared<const BladenTotaal>(uitvoer()));
 }
 
 void frmPrintenTI::pagineer() { beeld().toon(std::make_shared<const BladenTotaal>(uitvoer()), 1); }

@@ -11,6 +11,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <string_view>
 
 #include "output/afdruk.h"
 #include "ui/berichten.h"
@@ -19,15 +20,19 @@ namespace lauwerkrans {
 
 namespace {
 
-/// First and last page.
+/// First and last page, and whether the last is printed first.
 struct Bereik {
     std::size_t van = 1;
     std::size_t tot = 1;
+    bool omgekeerd = false;
 };
 
+bool TeVeel(const Printopdracht& opdracht, const Bladen& bladen) {
+    return opdracht.meesteBladen != 0 && bladen.aantal() > opdracht.meesteBladen;
+}
+
 std::size_t Hoogste(const Printopdracht& opdracht, const Bladen& bladen) {
-    return opdracht.meesteBladen == 0 ? bladen.aantal()
-                                      : std::min(bladen.aantal(), opdracht.meesteBladen);
+    return TeVeel(opdracht, bladen) ? opdracht.meesteBladen : bladen.aantal();
 }
 
 /// A4 upright, measured from the paper's edge whatever the printer cannot reach.
@@ -47,21 +52,23 @@ bool Teken(QPagedPaintDevice& papier, const Bladen& bladen, const Bereik& bereik
     if (!schilder.begin(&papier)) return false;
     const double breedte = papier.pageLayout().fullRect(QPageLayout::Millimeter).width();
     const double schaal = papier.width() / breedte;
-    for (std::size_t nummer = bereik.van; nummer <= bereik.tot; ++nummer) {
-        if (nummer > bereik.van && !papier.newPage()) return false;
+    for (std::size_t i = 0; i <= bereik.tot - bereik.van; ++i) {
+        if (i > 0 && !papier.newPage()) return false;
+        const std::size_t nummer = bereik.omgekeerd ? bereik.tot - i : bereik.van + i;
         TekenBlad(schilder, bladen.blad(nummer, MeetBladtekst), schaal);
     }
     return schilder.end();
 }
 
-/// The range that was chosen in the dialog, within the pages that there are.
+/// The range and the order that were chosen in the dialog, within the pages that there are.
 Bereik GekozenBereik(const QPrinter& printer, std::size_t hoogste) {
-    if (printer.printRange() != QPrinter::PageRange) return {1, hoogste};
+    const bool omgekeerd = printer.pageOrder() == QPrinter::LastPageFirst;
+    if (printer.printRange() != QPrinter::PageRange) return {1, hoogste, omgekeerd};
     const auto binnen = [hoogste](int blad) {
         return std::clamp<std::size_t>(static_cast<std::size_t>(std::max(blad, 1)), 1, hoogste);
     };
     const std::size_t van = binnen(printer.fromPage());
-    return {van, std::max(van, binnen(printer.toPage()))};
+    return {van, std::max(van, binnen(printer.toPage())), omgekeerd};
 }
 
 /// Copies that the printer does not make by itself.
@@ -78,11 +85,14 @@ Printeinde DrukAfOpPrinter(const Printopdracht& opdracht, const Printomgeving& o
     QPrinter printer(QPrinter::HighResolution);
     ZetPapier(printer);
     printer.setDocName(opdracht.naam);
-    const std::size_t hoogste = Hoogste(opdracht, *opdracht.bladen(Hoogte(printer)));
-    printer.setFromTo(1, static_cast<int>(hoogste));
+    const auto opA4 = opdracht.bladen(Hoogte(printer));
+    printer.setFromTo(1, static_cast<int>(Hoogste(opdracht, *opA4)));
     if (!omgeving.kiesPrinter(printer, venster)) return Printeinde::Geannuleerd;
     const Zandloper zandloper;
     const auto bladen = opdracht.bladen(Hoogte(printer)); // the paper may be another now
+    if (TeVeel(opdracht, *bladen) && !TeVeel(opdracht, *opA4)) {
+        meld({TeVeelBladenTekst(), Icoon::Uitroep});
+    }
     printer.setFullPage(true);
     const Bereik bereik = GekozenBereik(printer, Hoogste(opdracht, *bladen));
     for (int i = 0; i < Afdrukken(printer); ++i) {
@@ -109,9 +119,16 @@ bool SchrijfPdf(const QString& pad, const Printopdracht& opdracht) {
     return bestand.commit();
 }
 
+/// The name of the PDF: that of the document, without what no file name can hold.
+QString PdfNaam(QString naam) {
+    for (const char teken : std::string_view("\\/:*?\"<>|"))
+        naam.replace(QLatin1Char(teken), QLatin1Char('_'));
+    return naam + QStringLiteral(".pdf");
+}
+
 Printeinde DrukAfInPdf(const Printopdracht& opdracht, const Printomgeving& omgeving,
                        QWidget* venster, const Melder& meld) {
-    const QString pad = omgeving.kiesPdf(opdracht.naam + QStringLiteral(".pdf"), venster);
+    const QString pad = omgeving.kiesPdf(PdfNaam(opdracht.naam), venster);
     if (pad.isEmpty()) return Printeinde::Geannuleerd;
     const Zandloper zandloper;
     if (SchrijfPdf(pad, opdracht)) return Printeinde::Gedrukt;

@@ -3,7 +3,6 @@
 #include <QPushButton>
 #include <QScreen>
 
-#include <algorithm>
 #include <utility>
 
 #include "output/modMaakHtml.h"
@@ -55,16 +54,16 @@ void Printvenster::vul(const Uitvoer& uitvoer) {
 
 void Printvenster::toonOver(const QWidget& venster) {
     if (!geplaatst_) {
-        const QRect vrij = venster.screen()->availableGeometry();
-        const QSize buiten = maten::Buitenmaat(size());
-        const QSize kader = buiten - size();
-        resize(buiten.boundedTo(vrij.size()) - kader);
-        QRect vak(QPoint(), buiten.boundedTo(vrij.size()));
-        vak.moveCenter(venster.frameGeometry().center());
-        move(std::clamp(vak.left(), vrij.left(), std::max(vrij.left(), vrij.right() - vak.width())),
-             std::clamp(vak.top(), vrij.top(), std::max(vrij.top(), vrij.bottom() - vak.height())));
+        const QWidget& buitenste = *venster.window();
+        QRect vak(QPoint(), maten::Buitenmaat(size()));
+        const QSize kader = vak.size() - size();
+        vak.moveCenter(buitenste.frameGeometry().center());
+        vak = maten::BinnenScherm(vak, buitenste.screen()->availableGeometry());
+        resize(vak.size() - kader);
+        move(vak.topLeft());
         geplaatst_ = true;
     }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
     activateWindow();

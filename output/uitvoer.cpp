@@ -23,7 +23,7 @@ std::string Criterium(const Uitvoer& uitvoer, const std::string& lijn) {
 }
 
 bool OverAlleLijnen(const Uitvoer& uitvoer) {
-    return uitvoer.uitslag && uitvoer.uitslag->opties.gemAlleLijnen;
+    return uitvoer.uitslag ? uitvoer.uitslag->opties.gemAlleLijnen : uitvoer.leegOverAlleLijnen;
 }
 
 std::string Uitvoernaam(const Uitvoer& uitvoer, std::string_view extensie) {

@@ -16,6 +16,7 @@ namespace lauwerkrans {
 /// A list with everything that its page and its files show.
 struct Uitvoer {
     std::shared_ptr<const Uitslag> uitslag; // may be null: an empty list
+    bool leegOverAlleLijnen = false;        // an empty list: one ranking over all lines together
     std::string KopTekst;                   // the three headings, in this order; the club never
     std::string InstellingPrefix;           // gives the second and the third a value
     std::string ClubNaam;

@@ -32,6 +32,7 @@ void Uitvoervensters::PrintZDregels(frmMain& hoofdvenster) const {
 Uitvoer Uitvoervensters::maakUitvoer(const frmMain& hoofdvenster) const {
     Uitvoer uitvoer;
     uitvoer.uitslag = hoofdvenster.uitslag();
+    uitvoer.leegOverAlleLijnen = hoofdvenster.opties().gemAlleLijnen;
     uitvoer.KopTekst = instellingen_.KopTekst;
     uitvoer.InstellingPrefix = instellingen_.InstellingPrefix;
     uitvoer.ToonLijnen = instellingen_.ToonLijnen;

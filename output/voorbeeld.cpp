@@ -98,11 +98,15 @@ Voorbeeld::Voorbeeld(QWidget& venster)
 
 void Voorbeeld::toon(std::shared_ptr<const Bladen> bladen, std::size_t nummer) {
     const bool ander = bladen != bladen_ || nummer != nummer_;
-    bladen_ = std::move(bladen);
     nummer_ = nummer;
-    P1_->toon(bladen_, nummer);
-    pasAan();
+    vervang(std::move(bladen));
     if (ander) VScroll1_->setValue(0);
+}
+
+void Voorbeeld::vervang(std::shared_ptr<const Bladen> bladen) {
+    bladen_ = std::move(bladen);
+    P1_->toon(bladen_, nummer_);
+    pasAan();
 }
 
 double Voorbeeld::gewensteSchaal() const {

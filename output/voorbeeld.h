@@ -48,8 +48,11 @@ class Voorbeeld : public QObject {
 public:
     explicit Voorbeeld(QWidget& venster);
 
-    /// Shows a page; at its upper left corner when it is another than before.
+    /// Shows a page; from its top when it is another than before.
     void toon(std::shared_ptr<const Bladen> bladen, std::size_t nummer);
+
+    /// Shows the same page of the same list made in another way, at the same place.
+    void vervang(std::shared_ptr<const Bladen> bladen);
 
     /// Fits the page to its box again.
     void pasAan();

@@ -96,6 +96,18 @@ TEST_F(FrmPrintenTI, ATickRedrawsTheListAndHoldsForThisRun) {
     EXPECT_EQ(bewaard, 0);
 }
 
+TEST_F(FrmPrintenTI, ATickLeavesThePlaceInTheListAndANewListBeginsAtItsTop) {
+    uitvoer.uitslag = GroteUitslag({200});
+    toon();
+    auto& balk = vind<QScrollBar>("VScroll1");
+    balk.setValue(300);
+    vink("chkToonLijn");
+    EXPECT_EQ(balk.value(), 300);
+    EXPECT_EQ(vind<QWidget>("P1").y(), -300);
+    venster->vul(uitvoer);
+    EXPECT_EQ(balk.value(), 0);
+}
+
 TEST_F(FrmPrintenTI, BewarenWritesTheSettings) {
     toon();
     Druk(*venster, "cmdBewaren");

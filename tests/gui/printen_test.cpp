@@ -158,6 +158,38 @@ TEST_F(Printen, AnotherPaperChosenInTheDialogIsDividedAnew) {
     EXPECT_EQ(venster.aantalBladen(), 3U);
 }
 
+TEST_F(Printen, SmallerPaperThatTakesMoreThanThirtySixPagesIsSaid) {
+    metPrinter([](QPrinter& printer) {
+        printer.setPageSize(QPageSize(QPageSize::A5)); // 210 mm high: one line on a page
+        return true;
+    });
+    toon(std::vector<std::size_t>(26, 17)); // two lines on a page of A4
+    ASSERT_EQ(venster.aantalBladen(), 13U);
+    Druk(venster, "cmdPrinten");
+    EXPECT_TRUE(meldingen.getoond.empty());
+    EXPECT_EQ(PdfBladen(pdf()), 26);
+    toon(std::vector<std::size_t>(12, 100)); // three pages of A4, four of A5
+    ASSERT_EQ(venster.aantalBladen(), 36U);
+    Druk(venster, "cmdPrinten");
+    EXPECT_EQ(PdfBladen(pdf()), 36);
+    EXPECT_EQ(meldingen.getoond, (std::vector<Melding>{{TeVeelBladenTekst(), Icoon::Uitroep}}));
+}
+
+TEST_F(Printen, InReverseOrderTheLastPageOfTheRangeComesFirst) {
+    metPrinter([](QPrinter& printer) {
+        printer.setPageOrder(QPrinter::LastPageFirst);
+        printer.setPrintRange(QPrinter::PageRange);
+        printer.setFromTo(2, 4);
+        return true;
+    });
+    toon({30, 30, 30, 30});
+    Druk(venster, "cmdPrinten");
+    ASSERT_EQ(PdfBladen(pdf()), 3);
+    EXPECT_NE(PdfBlad(pdf(), 1).find("Lijn D"), std::string::npos);
+    EXPECT_NE(PdfBlad(pdf(), 2).find("Lijn C"), std::string::npos);
+    EXPECT_NE(PdfBlad(pdf(), 3).find("Lijn B"), std::string::npos);
+}
+
 TEST_F(Printen, UnprintableMarginsDoNotMoveThePage) {
     metPrinter([](QPrinter& printer) {
         printer.setFullPage(false);

@@ -225,6 +225,29 @@ TEST_F(Ledenlijst, PrintedOrCancelledTheButtonOpensAPreviewNextTime) {
     EXPECT_TRUE(meldingen().empty());
 }
 
+TEST_F(Ledenlijst, WithoutARankingThePageOverAllLinesIsAnEmptyOne) {
+    proef.klik("cmdPrinten");
+    vink("chkGemAlleLijnen");
+    proef.klik("cmdPrinten");
+    ASSERT_EQ(lijst("frmPrintenTI").uitslag, nullptr);
+    Druk(*proef.voorbeeld("frmPrintenTI"), "cmdMaakHtml");
+    const std::string bytes =
+        proef.competitie.map().inhoud().at("Lauwerkrans/Lauwerkrans/Lauwr__Lijn.HTML");
+    EXPECT_NE(bytes.find("Procent</b></font></td></b></font></tr ></font></table>"),
+              std::string::npos)
+        << bytes;
+}
+
+TEST_F(Ledenlijst, ThePdfGetsANameThatAFileCanHave) {
+    proef.competitie.schrijfLeden(99, {{3, "Jan", "v/d", "Smit"}, {17, "Piet", "van", "Berkelo"}});
+    proef.start();
+    proef.vind<QLineEdit>("txtPersoon").setText(QStringLiteral("v/d"));
+    proef.klik("cmdControleLijstLid");
+    proef.klik("cmdPrinten");
+    ASSERT_EQ(proef.printers.gevraagd.size(), 1U);
+    EXPECT_EQ(proef.printers.gevraagd[0], QStringLiteral("Controlelijst voor V_D.pdf"));
+}
+
 TEST_F(Ledenlijst, TheLastRankingStaysBehindIt) {
     proef.klik("cmd1_1");
     const auto uitslag = proef.venster->uitslag();

@@ -66,7 +66,7 @@ int PdfBladen(const std::string& pad) {
     if (!lezer.waitForFinished() || lezer.exitCode() != 0) throw std::runtime_error("pdfinfo");
     const QString uit = QString::fromUtf8(lezer.readAllStandardOutput());
     const qsizetype plaats = uit.indexOf(QStringLiteral("Pages:"));
-    return uit.mid(plaats + 6, 12).trimmed().section(QLatin1Char('\n'), 0, 0).toInt();
+    return uit.mid(plaats + 6).section(QLatin1Char('\n'), 0, 0).trimmed().toInt();
 }
 
 std::string PdfBlad(const std::string& pad, int blad) {
