@@ -12,8 +12,7 @@ namespace lauwerkrans {
 
 namespace {
 
-// Places are left, top, width, height in twips; those of the picture and its scroll bars follow the
-// window's size.
+// Places are left, top, width, height in twips.
 const std::array tabel = std::to_array<Ontwerp>({
     {Soort::Kader, "frameInstellingen", "", {120, 120, 2400, 1680}, "Instellingen"},
     {Soort::Vinkje, "chkToonLijn", "frameInstellingen", {120, 300, 2160, 285}, "Toon lijn"},
@@ -23,14 +22,6 @@ const std::array tabel = std::to_array<Ontwerp>({
      {120, 660, 2160, 285},
      "Toon aantal zittingen"},
     {Soort::Knop, "cmdBewaren", "frameInstellingen", {240, 1110, 1920, 375}, "Bewaren"},
-    {Soort::Kader, "framePrint", "", {120, 1920, 2400, 1440}, "Printen"},
-    {Soort::Knop, "cmdPrinten", "framePrint", {240, 360, 1920, 375}, "Print"},
-    {Soort::Knop, "cmdEinde", "framePrint", {240, 870, 1920, 375}, "Terug"},
-    {Soort::Knop, "cmdMaakCSV", "", {120, 3600, 2400, 375}, "MaakCSV"},
-    {Soort::Knop, "cmdMaakHtml", "", {120, 4110, 2400, 375}, "MaakHTML"},
-    {Soort::Paneel, "picP0", "", {2640, 120, 9925, 8090}, "", Gewoon, Vlak::ActieveRand},
-    {Soort::SchuifVerticaal, "VScroll1", "", {12565, 120, 255, 8090}},
-    {Soort::SchuifHorizontaal, "HScroll1", "", {2640, 8210, 9925, 255}},
 });
 
 } // namespace

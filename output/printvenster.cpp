@@ -1,8 +1,8 @@
 #include "output/printvenster.h"
 
 #include <QPushButton>
-#include <QScreen>
 
+#include <array>
 #include <utility>
 
 #include "output/modMaakHtml.h"
@@ -13,13 +13,26 @@ namespace lauwerkrans {
 
 namespace {
 
-// Sizes in twips; the frame takes 85 and the frame with the caption bar 440 of the outer ones.
+// Places and sizes in twips; the frame takes 85 and the frame with the caption bar 440 of the outer
+// ones.
 constexpr double beginBreedte = 13000 - 85;
 constexpr double beginHoogte = 9000 - 440;
 constexpr double kleinsteBreedte = 6000;
 constexpr double kleinsteHoogte = 5000;
 constexpr double marge = 350; // right of and below the picture: a scroll bar and some room
 constexpr double schuifDikte = 255;
+
+// What both previews have, below the frame that is their own.
+const std::array gedeeld = std::to_array<Ontwerp>({
+    {Soort::Kader, "framePrint", "", {120, 1920, 2400, 1440}, "Printen"},
+    {Soort::Knop, "cmdPrinten", "framePrint", {240, 360, 1920, 375}, "Print"},
+    {Soort::Knop, "cmdEinde", "framePrint", {240, 870, 1920, 375}, "Terug"},
+    {Soort::Knop, "cmdMaakCSV", "", {120, 3600, 2400, 375}, "MaakCSV"},
+    {Soort::Knop, "cmdMaakHtml", "", {120, 4110, 2400, 375}, "MaakHTML"},
+    {Soort::Paneel, "picP0", "", {2640, 120, 9925, 8090}, "", Gewoon, Vlak::ActieveRand},
+    {Soort::SchuifVerticaal, "VScroll1", "", {12565, 120, 255, 8090}},
+    {Soort::SchuifHorizontaal, "HScroll1", "", {2640, 8210, 9925, 255}},
+});
 
 QSize Binnen(double breedte, double hoogte) {
     return maten::Pixels({0, 0, breedte, hoogte}).size();
@@ -33,6 +46,7 @@ Printvenster::Printvenster(const char* naam, std::span<const Ontwerp> ontwerp,
     setObjectName(QString::fromLatin1(naam));
     setWindowTitle(QStringLiteral("Zittinguitslag"));
     MaakElementen(*this, ontwerp);
+    MaakElementen(*this, gedeeld);
     voorbeeld_ = new Voorbeeld(*this);
     setMinimumSize(Binnen(kleinsteBreedte, kleinsteHoogte));
     resize(Binnen(beginBreedte, beginHoogte));
@@ -50,23 +64,6 @@ void Printvenster::verbind(const char* knop, std::function<void()> werk) {
 void Printvenster::vul(const Uitvoer& uitvoer) {
     uitvoer_ = uitvoer;
     pagineer();
-}
-
-void Printvenster::toonOver(const QWidget& venster) {
-    if (!geplaatst_) {
-        const QWidget& buitenste = *venster.window();
-        QRect vak(QPoint(), maten::Buitenmaat(size()));
-        const QSize kader = vak.size() - size();
-        vak.moveCenter(buitenste.frameGeometry().center());
-        vak = maten::BinnenScherm(vak, buitenste.screen()->availableGeometry());
-        resize(vak.size() - kader);
-        move(vak.topLeft());
-        geplaatst_ = true;
-    }
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
 }
 
 void Printvenster::cmdPrinten_Click() {

@@ -9,21 +9,20 @@
 #include "output/printen.h"
 #include "output/uitvoer.h"
 #include "output/voorbeeld.h"
+#include "ui/bijvenster.h"
 #include "ui/ontwerp.h"
 
 namespace lauwerkrans {
 
-class Printvenster : public QWidget {
+class Printvenster : public Bijvenster {
     Q_OBJECT
 public:
-    /// A window with the controls of a table; places on its right side follow its size.
+    /// A window with the controls of a table and those that both have; places on its right side
+    /// follow its size.
     Printvenster(const char* naam, std::span<const Ontwerp> ontwerp, Printomgeving omgeving);
 
     /// Takes a list over and shows its first page.
     void vul(const Uitvoer& uitvoer);
-
-    /// Shows the window over another one, the first time in its middle, and brings it to the front.
-    void toonOver(const QWidget& venster);
 
     /// The list on show, with the error flag of the last export or print.
     [[nodiscard]] const Uitvoer& uitvoer() const { return uitvoer_; }
@@ -52,7 +51,6 @@ private:
     Uitvoer uitvoer_;
     Printomgeving omgeving_;
     Voorbeeld* voorbeeld_;
-    bool geplaatst_ = false;
 };
 
 } // namespace lauwerkrans

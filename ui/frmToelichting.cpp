@@ -1,6 +1,5 @@
 #include "ui/frmToelichting.h"
 
-#include <QScreen>
 #include <QScrollBar>
 
 #include "ui/maten.h"
@@ -36,23 +35,6 @@ frmToelichting::frmToelichting() : Text1(new QPlainTextEdit(this)) {
     Text1->setPlainText(ToelichtingTekst());
     setMinimumSize(Binnen(kleinste, kleinste));
     resize(Binnen(beginBreedte, beginHoogte));
-}
-
-void frmToelichting::toonOver(const QWidget& venster) {
-    if (!geplaatst_) {
-        const QWidget& buitenste = *venster.window();
-        const QSize kader = maten::Buitenmaat(size()) - size();
-        QRect vak(QPoint(), maten::Buitenmaat(size()));
-        vak.moveCenter(buitenste.frameGeometry().center());
-        vak = maten::BinnenScherm(vak, buitenste.screen()->availableGeometry());
-        resize(vak.size() - kader);
-        move(vak.topLeft());
-        geplaatst_ = true;
-    }
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
 }
 
 void frmToelichting::resizeEvent(QResizeEvent* gebeurtenis) {
