@@ -7,10 +7,10 @@ set -euo pipefail
 map=$1
 programma=$2
 
-# The DLLs of Windows: those that mingw-w64 has an import library for.
+# The DLLs of Windows: those that an import library of mingw-w64 names (its own DLLs have theirs in
+# files *.dll.a).
 van_windows() {
-  local naam=${1%.*}
-  compgen -G "/usr/x86_64-w64-mingw32/lib/lib$naam.a" >/dev/null
+  grep -qriF --include="*.a" --exclude="*.dll.a" -- "$1" /usr/x86_64-w64-mingw32/lib
 }
 
 invoer() { x86_64-w64-mingw32-objdump -p "$1" | sed -nE 's/^[[:space:]]*DLL Name: (.*)$/\L\1/p'; }

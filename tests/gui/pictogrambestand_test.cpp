@@ -50,7 +50,7 @@ int Verschil(const QImage& een, const QImage& ander) {
     return grootste;
 }
 
-TEST(Pictogrambestand, HasTheTheWindowInEverySize) {
+TEST(Pictogrambestand, HasThePictureOfTheWindowInEverySize) {
     QList<int> maten;
     for (const QImage& beeld : Beelden()) {
         ASSERT_FALSE(beeld.isNull());
