@@ -8,6 +8,7 @@
 
 #include <sys/fsuid.h>
 
+#include "data/systeem.h"
 #include "vensterproef.h"
 
 namespace lauwerkrans::proef {
@@ -118,9 +119,10 @@ TEST_F(InstellingenVenster, SettingsThatCannotBeWrittenAreReportedAndTheProgramE
     proef.klik("cmdEinde");
     ASSERT_EQ(proef.competitie.meldingen.getoond.size(), 1U);
     EXPECT_EQ(proef.competitie.meldingen.getoond[0],
-              (Melding{"Het bestand '" + proef.competitie.map().pad() +
-                           "/Lauwerkrans/Lauwr.ini' kan niet worden geschreven: er staat een map "
-                           "met die naam.",
+              (Melding{"Het bestand '" +
+                           systeem::Schrijfwijze(proef.competitie.map().pad() +
+                                                 "/Lauwerkrans/Lauwr.ini") +
+                           "' kan niet worden geschreven: er staat een map met die naam.",
                        Icoon::Uitroep}));
     EXPECT_FALSE(proef.venster->isVisible());
 }
