@@ -75,6 +75,15 @@ pakketten_windows=(
   fonts-wine
 )
 
+# What tries the installed program: a screen, a hand and a camera.
+# shellcheck disable=SC2034
+pakketten_windows_proef=(
+  xvfb
+  xdotool         # moves the mouse and types
+  imagemagick     # takes pictures of the screen
+  unzip
+)
+
 is_geinstalleerd() {
   dpkg-query --show --showformat='${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
 }
