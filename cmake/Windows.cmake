@@ -4,6 +4,9 @@ enable_language(RC)
 set(LAUWERKRANS_QT "$ENV{LAUWERKRANS_QT}" CACHE PATH
   "Qt for Windows, as packaging/windows/bouw_qt.sh names it")
 if(LAUWERKRANS_VENSTERS)
+  if(NOT LAUWERKRANS_QT)
+    message(FATAL_ERROR "LAUWERKRANS_QT names no Qt for Windows (packaging/windows/bouw_qt.sh)")
+  endif()
   list(APPEND CMAKE_PREFIX_PATH ${LAUWERKRANS_QT})
   list(APPEND CMAKE_FIND_ROOT_PATH ${LAUWERKRANS_QT})
   # Qt's own programs (moc, rcc) are those of this machine.

@@ -17,6 +17,8 @@ thread_dlls=/usr/x86_64-w64-mingw32/lib
 
 bouw() {
   mkdir -p build
+  # What CMake remembers of another Qt is of no use.
+  grep -qsxF "LAUWERKRANS_QT:PATH=$qt" "$uit/CMakeCache.txt" || rm -f -- "$uit/CMakeCache.txt"
   LAUWERKRANS_QT=$qt configureer windows >build/windows.log || { cat build/windows.log >&2; return 1; }
   cmake --build --preset windows --target Lauwerkrans kern_tests gui_tests maak_competitie
 }
@@ -106,7 +108,7 @@ export WINEQT_PLUGIN_PATH
 WINEQT_PLUGIN_PATH=$(windows_pad "$qt/plugins")
 test_alles
 leg_neer
-"$hier/controleer_dlls.sh" "$pakket" Lauwerkrans.exe
+"$hier/controleer_pakket.sh" "$pakket" Lauwerkrans.exe
 leg_demo_neer
 rm -rf -- "$pakketten"
 mkdir -p "$pakketten"
