@@ -96,7 +96,7 @@ installeerder() {
     "$hier/lauwerkrans.nsi"
 }
 
-installeer bouwen scherm windows
+installeer bouwen scherm toetsen windows
 gcc_dlls=$(dirname "$(x86_64-w64-mingw32-gcc-posix -print-file-name=libstdc++-6.dll)")
 qt=$("$hier/bouw_qt.sh")
 qt_versie=$(sed -nE 's/^Version: //p' "$qt"/bron/*.dsc | head -n 1)
