@@ -9,25 +9,8 @@ namespace lauwerkrans {
 
 namespace {
 
-/// Bytes 0x80 to 0x9F of Windows-1252; all others are the Unicode character of the same number.
-constexpr std::array<char16_t, 32> hogeTekens = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
 constexpr char32_t geenTeken = 0xFFFFFFFF;
-
-char32_t TekenVanByte(unsigned char byte) {
-    return byte >= 0x80 && byte <= 0x9F ? hogeTekens.at(byte - 0x80U) : byte;
-}
-
-/// The byte of a character, or "?" when the code page lacks it.
-char ByteVanTeken(char32_t teken) {
-    if (teken < 0x80 || (teken >= 0xA0 && teken <= 0xFF)) return static_cast<char>(teken);
-    const auto* plaats = std::find(hogeTekens.begin(), hogeTekens.end(), teken);
-    if (plaats == hogeTekens.end()) return '?';
-    return static_cast<char>(0x80 + (plaats - hogeTekens.begin()));
-}
+constexpr char32_t eersteHoge = 0x80; // characters below are those of ASCII
 
 /// Appends a character below U+10000 as UTF-8.
 void VoegToe(std::string& tekst, char32_t teken) {
@@ -81,46 +64,95 @@ bool IsAscii(std::string_view tekst) {
                        [](char teken) { return static_cast<unsigned char>(teken) < 0x80; });
 }
 
-char32_t Hoofdletter(char32_t teken) {
-    if (teken >= U'a' && teken <= U'z') return teken - 32;
-    if (teken >= 0xE0 && teken <= 0xFE && teken != 0xF7) return teken - 32; // à to þ, not the ÷
-    if (teken == 0xFF) return 0x178;                                        // ÿ
-    if (teken == 0x161 || teken == 0x153 || teken == 0x17E) return teken - 1; // š œ ž
-    return teken;
+char16_t HoofdletterIn1252(char16_t teken) {
+    const bool heeftEen = teken >= 0xE0 && teken <= 0xFE && teken != 0xF7; // à to þ, not the ÷
+    if (heeftEen) return static_cast<char16_t>(teken - 32);
+    if (teken == 0xFF) return 0x178;                                             // ÿ
+    const bool naastElkaar = teken == 0x161 || teken == 0x153 || teken == 0x17E; // š œ ž
+    return naastElkaar ? static_cast<char16_t>(teken - 1) : teken;
+}
+
+/// That of the system where it is of one byte a character, else Windows-1252.
+const Codetabel& Eigen() {
+    static const Codetabel eigen(systeem::EigenCodetabel().value_or(Windows1252()));
+    return eigen;
 }
 
 } // namespace
 
-std::string NaarUtf8(std::string_view bytes) {
+systeem::Bovenhelft Windows1252() {
+    // Bytes 0x80 to 0x9F; all others are the Unicode character of the same number.
+    constexpr std::array<char16_t, 32> begin = {
+        0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+        0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+        0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+    systeem::Bovenhelft helft;
+    for (std::size_t i = 0; i < helft.tekens.size(); ++i) {
+        const auto teken = i < begin.size() ? begin.at(i) : static_cast<char16_t>(0x80 + i);
+        helft.tekens.at(i) = teken;
+        helft.hoofdletters.at(i) = HoofdletterIn1252(teken);
+    }
+    return helft;
+}
+
+std::string Codetabel::naarUtf8(std::string_view bytes) const {
     if (IsAscii(bytes)) return std::string(bytes);
     std::string utf8;
     utf8.reserve(bytes.size() + bytes.size() / 8);
-    for (const char byte : bytes)
-        VoegToe(utf8, TekenVanByte(static_cast<unsigned char>(byte)));
+    for (const char teken : bytes) {
+        const auto byte = static_cast<unsigned char>(teken);
+        VoegToe(utf8, byte < eersteHoge ? byte : helft_.tekens.at(byte - eersteHoge));
+    }
     return utf8;
 }
 
-std::string NaarCodetabel(std::string_view utf8) {
+std::string Codetabel::naarBytes(std::string_view utf8) const {
     if (IsAscii(utf8)) return std::string(utf8);
     std::string bytes;
+    bytes.reserve(utf8.size());
     while (!utf8.empty()) {
-        bytes += ByteVanTeken(NeemTeken(utf8));
+        const char32_t teken = NeemTeken(utf8);
+        if (teken < eersteHoge) {
+            bytes += static_cast<char>(teken);
+        } else {
+            const auto plaats = plaatsVan(teken);
+            bytes += plaats ? static_cast<char>(eersteHoge + *plaats) : '?';
+        }
     }
     return bytes;
 }
 
-std::string Hoofdletters(std::string_view utf8) {
+std::string Codetabel::hoofdletters(std::string_view utf8) const {
     std::string groot;
+    groot.reserve(utf8.size());
     while (!utf8.empty()) {
         const std::string_view voor = utf8;
-        const char32_t teken = Hoofdletter(NeemTeken(utf8));
-        if (teken < 0x10000) {
-            VoegToe(groot, teken);
-        } else { // beyond the code page or malformed: as it stands
+        const char32_t teken = NeemTeken(utf8);
+        if (teken >= U'a' && teken <= U'z') {
+            VoegToe(groot, teken - 32);
+        } else if (const auto plaats = plaatsVan(teken)) {
+            VoegToe(groot, helft_.hoofdletters.at(*plaats));
+        } else { // one without a capital, beyond the code page, or malformed: as it stands
             groot.append(voor.substr(0, voor.size() - utf8.size()));
         }
     }
     return groot;
 }
+
+/// Most characters stand at the place of their number; the others are looked for.
+std::optional<std::size_t> Codetabel::plaatsVan(char32_t teken) const {
+    if (teken < eersteHoge) return std::nullopt;
+    const auto& tekens = helft_.tekens;
+    if (teken < 0x100 && tekens.at(teken - eersteHoge) == teken) return teken - eersteHoge;
+    const auto* gevonden = std::find(tekens.begin(), tekens.end(), teken);
+    if (gevonden == tekens.end()) return std::nullopt;
+    return static_cast<std::size_t>(gevonden - tekens.begin());
+}
+
+std::string NaarUtf8(std::string_view bytes) { return Eigen().naarUtf8(bytes); }
+
+std::string NaarCodetabel(std::string_view utf8) { return Eigen().naarBytes(utf8); }
+
+std::string Hoofdletters(std::string_view utf8) { return Eigen().hoofdletters(utf8); }
 
 } // namespace lauwerkrans

@@ -10,10 +10,11 @@ namespace lauwerkrans {
 
 namespace {
 
-constexpr std::array<std::pair<std::errc, const char*>, 8> redenen = {{
+constexpr std::array<std::pair<std::errc, const char*>, 9> redenen = {{
     {std::errc::no_such_file_or_directory, "het bestand bestaat niet"},
     {std::errc::not_a_directory, "de map bestaat niet"},
     {std::errc::permission_denied, "geen toegang"},
+    {std::errc::device_or_resource_busy, "een ander programma gebruikt het bestand"},
     {std::errc::is_a_directory, "er staat een map met die naam"},
     {std::errc::no_space_on_device, "de schijf is vol"},
     {std::errc::read_only_file_system, "de schijf is alleen te lezen"},

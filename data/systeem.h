@@ -2,7 +2,10 @@
 // where the system does so, with "/". No other file of the core calls the system.
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -60,11 +63,22 @@ public:
     [[nodiscard]] bool gelukt() const { return gelukt_; }
 
 private:
-    int greep_ = -1;
+    std::intptr_t greep_ = -1; // the system's name for it
     bool gelukt_ = true;
 };
 
 /// Whether names that differ only in letter case name the same file.
 [[nodiscard]] bool LetterkastTeltNiet();
+
+/// The upper half of a code page of one byte a character: the characters of the bytes 0x80 to 0xFF
+/// and the capital of each (itself when it has none).
+struct Bovenhelft {
+    std::array<char16_t, 128> tekens{};
+    std::array<char16_t, 128> hoofdletters{};
+};
+
+/// The code page of the system's own text files; empty where the system has none, or one that
+/// takes more than one byte a character.
+[[nodiscard]] std::optional<Bovenhelft> EigenCodetabel();
 
 } // namespace lauwerkrans::systeem

@@ -158,13 +158,16 @@ EnigeKopie::EnigeKopie(const std::string& programma)
         static_cast<::socklen_t>(offsetof(::sockaddr_un, sun_path) + 1 + naam.size());
     // The system's own interface: an address of any family is passed as the general one.
     const auto* algemeen = reinterpret_cast<const ::sockaddr*>(&adres);
-    gelukt_ = greep_ < 0 || ::bind(greep_, algemeen, lengte) == 0 || errno != EADDRINUSE;
+    gelukt_ = greep_ < 0 || ::bind(static_cast<int>(greep_), algemeen, lengte) == 0 ||
+              errno != EADDRINUSE;
 }
 
 EnigeKopie::~EnigeKopie() {
-    if (greep_ >= 0) ::close(greep_);
+    if (greep_ >= 0) ::close(static_cast<int>(greep_));
 }
 
 bool LetterkastTeltNiet() { return false; }
+
+std::optional<Bovenhelft> EigenCodetabel() { return std::nullopt; }
 
 } // namespace lauwerkrans::systeem

@@ -62,6 +62,28 @@ pakketten_ci=(
   shellcheck      # the linter of the scripts
 )
 
+# The version for Windows: built here, tried under wine.
+# shellcheck disable=SC2034
+pakketten_windows=(
+  g++-mingw-w64-x86-64-posix # the compiler, with the threads that the standard library needs
+  dpkg-dev        # unpacks Debian's sources of Qt
+  googletest      # the tests' library as source
+  nsis            # makes the installer
+  zip             # makes the portable package
+  wine            # runs Windows programs
+  wine64
+  fonts-wine
+)
+
+# What tries the installed program: a screen, a hand and a camera.
+# shellcheck disable=SC2034
+pakketten_windows_proef=(
+  xvfb
+  xdotool         # moves the mouse and types
+  imagemagick     # takes pictures of the screen
+  unzip
+)
+
 is_geinstalleerd() {
   dpkg-query --show --showformat='${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
 }

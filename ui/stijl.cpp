@@ -94,6 +94,9 @@ QFont Letters(int pixels, bool vet) {
                          QStringLiteral("Arial")});
     letters.setPixelSize(pixels);
     letters.setBold(vet);
+    // The same widths on every system: full hinting, the usual one on Windows, rounds each
+    // letter's.
+    letters.setHintingPreference(QFont::PreferVerticalHinting);
     return letters;
 }
 

@@ -6,8 +6,11 @@
 
 #include <QListWidget>
 
+#ifndef _WIN32
 #include <sys/fsuid.h>
+#endif
 
+#include "data/systeem.h"
 #include "vensterproef.h"
 
 namespace lauwerkrans::proef {
@@ -118,13 +121,29 @@ TEST_F(InstellingenVenster, SettingsThatCannotBeWrittenAreReportedAndTheProgramE
     proef.klik("cmdEinde");
     ASSERT_EQ(proef.competitie.meldingen.getoond.size(), 1U);
     EXPECT_EQ(proef.competitie.meldingen.getoond[0],
-              (Melding{"Het bestand '" + proef.competitie.map().pad() +
-                           "/Lauwerkrans/Lauwr.ini' kan niet worden geschreven: er staat een map "
-                           "met die naam.",
+              (Melding{"Het bestand '" +
+                           systeem::Schrijfwijze(proef.competitie.map().pad() +
+                                                 "/Lauwerkrans/Lauwr.ini") +
+                           "' kan niet worden geschreven: er staat een map met die naam.",
                        Icoon::Uitroep}));
     EXPECT_FALSE(proef.venster->isVisible());
 }
 
+#ifdef _WIN32
+TEST_F(InstellingenVenster, AFileThatIsOpenElsewhereIsReportedOnceAndTheProgramEnds) {
+    proef.competitie.map().maakOnleesbaar("Lauwerkrans/Lauwr.ini");
+    proef.start();
+    proef.typ("txt1_1", "9");
+    proef.klik("cmdEinde");
+    ASSERT_EQ(proef.competitie.meldingen.getoond.size(), 1U);
+    EXPECT_EQ(proef.competitie.meldingen.getoond[0],
+              (Melding{"Het bestand '" + proef.competitie.map().pad() +
+                           "\\Lauwerkrans\\Lauwr.ini' kan niet worden geschreven: een ander "
+                           "programma gebruikt het bestand.",
+                       Icoon::Uitroep}));
+    EXPECT_FALSE(proef.venster->isVisible());
+}
+#else
 /// While it lives the user may not write, the administrator neither.
 class ZonderRechten {
 public:
@@ -165,6 +184,7 @@ TEST_F(InstellingenVenster, AFolderThatIsReadOnlyIsReportedOnceAndTheOldFileStay
     EXPECT_FALSE(proef.venster->isVisible());
     EXPECT_EQ(ini(), "__TXT1=13\r\n");
 }
+#endif
 
 TEST_F(InstellingenVenster, CriteriaSurviveWhenTheLinesCannotBeRead) {
     schrijfIni("__TXT1=13\r\n__TXT2=10\r\n");

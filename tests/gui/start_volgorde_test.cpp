@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 
+#include "data/systeem.h"
 #include "startproef.h"
 
 namespace lauwerkrans::proef {
@@ -85,12 +86,13 @@ TEST_F(StartVolgorde, MembersAreReadAfterTheCompetitionAndBeforeTheRest) {
 
 TEST_F(StartVolgorde, ARoundThatCannotBeListedGivesOneMessageAndTheRestIsRead) {
     competitie.map().verwijder("Competities/Proef/Ronde-2");
-    competitie.map().maakOnleesbaar("Competities/Proef/Ronde-2");
+    competitie.map().maakOnleesbareMap("Competities/Proef/Ronde-2");
     EXPECT_TRUE(start());
     ASSERT_EQ(meldingen().size(), 1U);
-    EXPECT_TRUE(meldingen()[0].tekst.starts_with("Het bestand '" + competitie.map().pad() +
-                                                 "/Competities/Proef/Ronde-2' kan niet worden "
-                                                 "gelezen: "))
+    EXPECT_TRUE(meldingen()[0].tekst.starts_with(
+        "Het bestand '" +
+        systeem::Schrijfwijze(competitie.map().pad() + "/Competities/Proef/Ronde-2") +
+        "' kan niet worden gelezen: "))
         << meldingen()[0].tekst;
     EXPECT_EQ(venster.rijen().lijnen(), 2U);
     EXPECT_EQ(competitie.algemeen.ledenNamen->naam(3), "Jan Smit");
@@ -98,7 +100,7 @@ TEST_F(StartVolgorde, ARoundThatCannotBeListedGivesOneMessageAndTheRestIsRead) {
 
 TEST_F(StartVolgorde, BrokenFilesAreReportedInTheOrderOfReadingEachOnce) {
     competitie.map().verwijder("Competities/Proef/Ronde-2");
-    competitie.map().maakOnleesbaar("Competities/Proef/Ronde-2");
+    competitie.map().maakOnleesbareMap("Competities/Proef/Ronde-2");
     verwijder("Competities/Proef/Ronde-1/RondeData.txt");
     competitie.map().schrijf("ORVspelers/ORVspelers.txt", "veel");
     schrijfIni("__CHK1=1\r\n");
@@ -144,8 +146,9 @@ TEST_F(StartVolgorde, APercentageFileThatCannotBeOpenedIsReportedOnceWhenItIsRea
             venster.cmd1_Click(1);
         }
         ASSERT_EQ(meldingen().size(), 1U);
-        EXPECT_NE(meldingen()[0].tekst.find("/Competities/Proef/Ronde-1/Zitting-2/PercZit-2.txt' "
-                                            "kan niet worden gelezen: "),
+        EXPECT_NE(meldingen()[0].tekst.find(
+                      systeem::Schrijfwijze("/Competities/Proef/Ronde-1/Zitting-2/PercZit-2.txt") +
+                      "' kan niet worden gelezen: "),
                   std::string::npos)
             << meldingen()[0].tekst;
         EXPECT_EQ(venster.raster().lijst(), lijst) << "the earlier list stays";

@@ -1,6 +1,5 @@
 #include "voorbeeldproef.h"
 
-#include <QProcess>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -34,13 +33,9 @@ std::vector<PdfTekst> LeesPdf(const std::string& pad) {
     constexpr double mmPerPunt = 25.4 / 72;
     constexpr double stijging = 0.905; // from the baseline to the upper edge of a word's box
     constexpr double daling = 0.212;
-    QProcess lezer;
-    lezer.start(QStringLiteral("pdftotext"),
-                {QStringLiteral("-bbox"), QString::fromStdString(pad), QStringLiteral("-")});
-    if (!lezer.waitForFinished() || lezer.exitCode() != 0) throw std::runtime_error("pdftotext");
     std::vector<PdfTekst> woorden;
     int blad = 0;
-    QXmlStreamReader xml(lezer.readAllStandardOutput());
+    QXmlStreamReader xml(LeesMet("pdftotext -bbox", pad));
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement) continue;
         if (xml.name() == QLatin1String("page")) ++blad;
@@ -61,10 +56,7 @@ std::vector<PdfTekst> LeesPdf(const std::string& pad) {
 }
 
 int PdfBladen(const std::string& pad) {
-    QProcess lezer;
-    lezer.start(QStringLiteral("pdfinfo"), {QString::fromStdString(pad)});
-    if (!lezer.waitForFinished() || lezer.exitCode() != 0) throw std::runtime_error("pdfinfo");
-    const QString uit = QString::fromUtf8(lezer.readAllStandardOutput());
+    const QString uit = QString::fromUtf8(LeesMet("pdfinfo", pad));
     const qsizetype plaats = uit.indexOf(QStringLiteral("Pages:"));
     return uit.mid(plaats + 6).section(QLatin1Char('\n'), 0, 0).trimmed().toInt();
 }

@@ -1,6 +1,7 @@
 // A preview over made-up lists, with answers for printers and dialogs.
 #pragma once
 
+#include <QByteArray>
 #include <QPushButton>
 
 #include "kern/uitvoerproef.h"
@@ -15,6 +16,11 @@ namespace lauwerkrans::proef {
 
 /// Presses a button of a window with the mouse.
 void Druk(const QWidget& venster, const char* naam);
+
+/// What a command that reads a PDF (pdftotext with options, pdfinfo) says about one. These are
+/// programs of the building machine; on Windows they are reached through wine. Throws
+/// std::runtime_error when it fails.
+[[nodiscard]] QByteArray LeesMet(const std::string& opdracht, const std::string& pad);
 
 /// A word of a PDF with its place in millimetres: its left end and its baseline, and its
 /// page.

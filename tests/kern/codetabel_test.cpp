@@ -84,6 +84,30 @@ TEST(Codetabel, AnOverlongFormIsMalformedToo) {
     EXPECT_EQ(NaarCodetabel("\xF4\x90\x80\x80"), "?"); // beyond the last character
 }
 
+/// A part of the code page of Russian (1251): А to я are the bytes 0xC0 to 0xFF.
+Codetabel Russisch() {
+    systeem::Bovenhelft helft = Windows1252();
+    for (std::size_t i = 0; i < 64; ++i) {
+        helft.tekens.at(64 + i) = static_cast<char16_t>(0x410 + i);
+        helft.hoofdletters.at(64 + i) = static_cast<char16_t>(0x410 + i % 32);
+    }
+    return Codetabel(helft);
+}
+
+TEST(Codetabel, MayBeThatOfAnotherLanguage) {
+    const Codetabel tabel = Russisch();
+    EXPECT_EQ(tabel.naarUtf8("\xCF\xE5\xF2\xFF 1 \x80"), "Петя 1 €");
+    EXPECT_EQ(tabel.naarBytes("Петя 1 €"), "\xCF\xE5\xF2\xFF 1 \x80");
+    EXPECT_EQ(tabel.naarBytes("René"), "Ren?"); // no é there
+    EXPECT_EQ(tabel.hoofdletters("Петя en é"), "ПЕТЯ EN é");
+}
+
+TEST(Codetabel, OfAnotherLanguageGivesEveryByteBackToo) {
+    const Codetabel tabel = Russisch();
+    for (int byte = 0; byte <= 255; ++byte)
+        EXPECT_EQ(tabel.naarBytes(tabel.naarUtf8(EenByte(byte))), EenByte(byte)) << byte;
+}
+
 TEST(Hoofdletters, CoverAToZ) {
     EXPECT_EQ(Hoofdletters("abcdefghijklmnopqrstuvwxyz"), "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
     EXPECT_EQ(Hoofdletters("Van der Berg 3-`{|}~@["), "VAN DER BERG 3-`{|}~@[");

@@ -121,7 +121,6 @@ TEST(CompBums, ThatAreMalformedArePassedOverAndTheNextRoundIsRead) {
     }
 }
 
-#ifndef _WIN32
 TEST(CompBums, ThatCannotBeOpenedArePassedOver) {
     const Competitie comp({Bestand({"1,2,BUM"})});
     comp.map.maakOnleesbaar("Comp/Ronde-2/CompBums.txt");
@@ -134,12 +133,11 @@ TEST(CompBums, OfARoundThatCannotBeListedGiveNoError) {
     proef.schrijfLeden(9, {});
     proef.schrijfBums(1, {{14, 305}});
     proef.laad();
-    proef.map().maakOnleesbaar(proef.competitieMap() + "Ronde-2");
+    proef.map().maakOnleesbareMap(proef.competitieMap() + "Ronde-2");
     EXPECT_NO_THROW(LeesCompBums(proef.algemeen));
     EXPECT_EQ(proef.algemeen.BumLijst.bovengrens(), 0U);
     EXPECT_EQ(proef.meldingen.getoond, std::vector<Melding>{});
 }
-#endif
 
 TEST(CompBums, AreFoundInAnotherLetterCaseAndWithAByteOrderMark) {
     const Competitie comp({});

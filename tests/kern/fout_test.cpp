@@ -139,6 +139,8 @@ TEST(Reden, IsDutchForUsualErrors) {
     EXPECT_EQ(Reden(make_error_code(errc::no_such_file_or_directory)), "het bestand bestaat niet");
     EXPECT_EQ(Reden(make_error_code(errc::not_a_directory)), "de map bestaat niet");
     EXPECT_EQ(Reden(make_error_code(errc::permission_denied)), "geen toegang");
+    EXPECT_EQ(Reden(make_error_code(errc::device_or_resource_busy)),
+              "een ander programma gebruikt het bestand");
     EXPECT_EQ(Reden(make_error_code(errc::is_a_directory)), "er staat een map met die naam");
     EXPECT_EQ(Reden(make_error_code(errc::no_space_on_device)), "de schijf is vol");
     EXPECT_EQ(Reden(make_error_code(errc::read_only_file_system)), "de schijf is alleen te lezen");

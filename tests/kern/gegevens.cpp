@@ -6,6 +6,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "data/systeem.h"
 #include "proef.h"
 #include "tools/lijst_programma.h"
 
@@ -74,6 +75,18 @@ std::string Zichtbaar(const std::string& regel) {
     return tekst;
 }
 
+/// Puts "<map>" for the folder in every path of the messages, and "/" for what joins its names.
+void VervangMap(const std::string& map, std::string& meldingen) {
+    for (auto plaats = meldingen.find(map); plaats != std::string::npos;
+         plaats = meldingen.find(map, plaats)) {
+        meldingen.replace(plaats, map.size(), "<map>");
+        const auto einde = std::min(meldingen.find('\'', plaats), meldingen.size());
+        for (; plaats < einde; ++plaats) {
+            if (meldingen[plaats] == '\\') meldingen[plaats] = '/';
+        }
+    }
+}
+
 } // namespace
 
 void PrintTo(const Gegevens& gegevens, std::ostream* uit) {
@@ -105,9 +118,7 @@ Programmauitvoer MaakUitvoer(const Gegevens& gegevens) {
     uitvoer.uitgang = lijst::Voer(woorden, lijst, meldingen);
     uitvoer.lijst = lijst.str();
     uitvoer.meldingen = meldingen.str();
-    for (auto plaats = uitvoer.meldingen.find(map); plaats != std::string::npos;
-         plaats = uitvoer.meldingen.find(map))
-        uitvoer.meldingen.replace(plaats, map.size(), "<map>");
+    VervangMap(systeem::Schrijfwijze(map), uitvoer.meldingen);
     return uitvoer;
 }
 

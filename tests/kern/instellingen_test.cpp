@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "data/fout.h"
+#include "data/systeem.h"
 #include "proef.h"
 
 namespace lauwerkrans {
@@ -161,9 +162,10 @@ TEST_F(InstellingenTest, WhatCannotBeWrittenIsReportedAndLosesNothing) {
         FAIL() << "written over a folder";
     } catch (const Fout& fout) {
         EXPECT_EQ(fout.soort, FoutSoort::BestandNietSchrijfbaar);
-        EXPECT_EQ(FoutTekst(fout), "Het bestand '" + map.pad() +
-                                       "/Lauwr.ini' kan niet worden geschreven: er staat een map "
-                                       "met die naam.");
+        EXPECT_EQ(FoutTekst(fout), "Het bestand '" +
+                                       systeem::Schrijfwijze(map.pad() + "/Lauwr.ini") +
+                                       "' kan niet worden geschreven: er staat een map met die "
+                                       "naam.");
     }
     EXPECT_EQ(aantalBestanden(), 1U);
     instellingen.bestand = InstellingenPad(map.pad() + "\\geen\\map");

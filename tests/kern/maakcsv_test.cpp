@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "data/systeem.h"
 #include "scores.h"
 #include "uitvoerproef.h"
 
@@ -140,7 +141,7 @@ TEST_F(MaakCsv, TellsUnderWhichNameAndWhere) {
     MaakCSV_Totaal(uitvoer);
     const Melding verwacht{"\r\nHet CSV-bestand 'Lauwr__LijnABC.CSV' is met succes aangemaakt."
                            "\r\n\r\nHet bevindt zich in de map: " +
-                               map.pad() + "/Lauwerkrans",
+                               systeem::Schrijfwijze(map.pad() + "/Lauwerkrans"),
                            Icoon::Informatie};
     EXPECT_EQ(meldingen.getoond, (std::vector<Melding>{verwacht, verwacht}));
     EXPECT_EQ(uitvoer.fout, 0);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "data/systeem.h"
 #include "scores.h"
 #include "uitvoerproef.h"
 
@@ -129,7 +130,7 @@ TEST_F(MaakPagina, TellsUnderWhichNameAndWhere) {
         meldingen.getoond,
         (std::vector<Melding>{{"\r\nHet HTMLbestand heet: Lauwr__LijnABC.HTML en is opgeslagen "
                                "in de volgende map:\r\n\r\n" +
-                                   map.pad() + "/Lauwerkrans\r\n",
+                                   systeem::Schrijfwijze(map.pad() + "/Lauwerkrans") + "\r\n",
                                Icoon::Informatie}}));
     EXPECT_EQ(uitvoer.fout, 0);
 }

@@ -24,6 +24,13 @@ std::filesystem::path NieuweMap() {
     }
 }
 
+/// A path from UTF-8 on every system; from a std::string Windows takes byte after byte.
+std::filesystem::path Utf8Pad(const std::string& naam) {
+    return std::u8string(naam.begin(), naam.end());
+}
+
+std::string Tekst(const std::u8string& utf8) { return {utf8.begin(), utf8.end()}; }
+
 std::string Rechts(int nummer) {
     std::string tekst = std::to_string(nummer);
     return std::string(tekst.size() < 6 ? 6 - tekst.size() : 0, ' ') + tekst;
@@ -40,13 +47,16 @@ std::string Samen(const std::vector<std::string>& regels) {
 
 Proefmap::Proefmap() : map_(NieuweMap()) {}
 
+std::string Proefmap::pad() const { return Tekst(map_.u8string()); }
+
 Proefmap::~Proefmap() {
+    bezet_.clear();
     std::error_code genegeerd; // a folder that stays behind fails no test
     std::filesystem::remove_all(map_, genegeerd);
 }
 
 void Proefmap::schrijf(const std::string& naam, std::string_view bytes) const {
-    const auto pad = map_ / naam;
+    const auto pad = map_ / Utf8Pad(naam);
     std::filesystem::create_directories(pad.parent_path());
     std::ofstream bestand(pad, std::ios::binary);
     bestand.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
@@ -55,17 +65,23 @@ void Proefmap::schrijf(const std::string& naam, std::string_view bytes) const {
 }
 
 void Proefmap::maakMap(const std::string& naam) const {
-    std::filesystem::create_directories(map_ / naam);
+    std::filesystem::create_directories(map_ / Utf8Pad(naam));
 }
 
 void Proefmap::maakOnleesbaar(const std::string& naam) const {
-    const auto pad = map_ / naam;
+    const auto pad = map_ / Utf8Pad(naam);
     std::filesystem::create_directories(pad.parent_path());
-    std::filesystem::create_symlink(pad.filename(), pad);
+    bezet_.push_back(MaakOnleesbaar(pad));
+}
+
+void Proefmap::maakOnleesbareMap(const std::string& naam) const {
+    const auto pad = map_ / Utf8Pad(naam);
+    std::filesystem::create_directories(pad.parent_path());
+    bezet_.push_back(MaakOnleesbareMap(pad));
 }
 
 void Proefmap::verwijder(const std::string& naam) const {
-    std::filesystem::remove_all(map_ / naam);
+    std::filesystem::remove_all(map_ / Utf8Pad(naam));
 }
 
 std::map<std::string, std::string> Proefmap::inhoud() const {
@@ -73,7 +89,7 @@ std::map<std::string, std::string> Proefmap::inhoud() const {
     for (const auto& deel : std::filesystem::recursive_directory_iterator(map_)) {
         if (!deel.is_regular_file()) continue;
         std::ifstream bestand(deel.path(), std::ios::binary);
-        bestanden[deel.path().lexically_relative(map_).generic_string()] =
+        bestanden[Tekst(deel.path().lexically_relative(map_).generic_u8string())] =
             std::string(std::istreambuf_iterator<char>(bestand), {});
     }
     return bestanden;

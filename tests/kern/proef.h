@@ -4,8 +4,10 @@
 
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "data/modAlgemeen.h"
@@ -23,7 +25,7 @@ public:
     ~Proefmap();
 
     [[nodiscard]] const std::filesystem::path& map() const { return map_; }
-    [[nodiscard]] std::string pad() const { return map_.string(); }
+    [[nodiscard]] std::string pad() const; // UTF-8
 
     /// Writes the bytes to a file below the folder; makes the folders on the way.
     void schrijf(const std::string& naam, std::string_view bytes) const;
@@ -31,9 +33,12 @@ public:
     /// Makes a folder, and those on the way.
     void maakMap(const std::string& naam) const;
 
-    /// Makes a file that is there but that nobody can open, the administrator neither: a symbolic
-    /// link to itself.
+    /// Makes a file that is there but that nobody can open, the administrator neither. Opening it
+    /// gives `onleesbaarFout`.
     void maakOnleesbaar(const std::string& naam) const;
+
+    /// Makes a folder, or what passes for one, whose names nobody can list.
+    void maakOnleesbareMap(const std::string& naam) const;
 
     /// Takes a file or a folder with all that is in it away.
     void verwijder(const std::string& naam) const;
@@ -43,7 +48,17 @@ public:
 
 private:
     std::filesystem::path map_;
+    mutable std::vector<std::shared_ptr<void>> bezet_; // what keeps files from being opened
 };
+
+/// The error of opening what maakOnleesbaar made.
+extern const std::errc onleesbaarFout;
+
+/// Makes a file that cannot be opened, or a folder that cannot be listed, as long as the result
+/// lives: a symbolic link to itself or, on Windows, one that another holds open. Its own folder
+/// must be there.
+[[nodiscard]] std::shared_ptr<void> MaakOnleesbaar(const std::filesystem::path& pad);
+[[nodiscard]] std::shared_ptr<void> MaakOnleesbareMap(const std::filesystem::path& pad);
 
 /// Messages as they were shown.
 struct Meldingen {

@@ -210,6 +210,7 @@ TEST(RondeMappen, TakeTheExactNameBeforeAnother) {
     EXPECT_EQ(comp.inhoud(1, 1), "inhoud van Ronde-1/Zitting-1/PercZit-1.txt");
     EXPECT_EQ(comp.mappen(1).compBums(1), comp.pad() + "\\Ronde-1\\CompBums.txt");
 }
+#endif
 
 TEST(RondeMappen, TakeAFileThatCannotBeOpenedForAnError) {
     const Competitie comp({"Ronde-1/Zitting-1/PercZit-1.txt"});
@@ -225,7 +226,7 @@ TEST(RondeMappen, TakeAFileThatCannotBeOpenedForAnError) {
 
 TEST(RondeMappen, TakeARoundThatCannotBeListedForAnError) {
     const Competitie comp({});
-    comp.map.maakOnleesbaar("Comp/Ronde-2");
+    comp.map.maakOnleesbareMap("Comp/Ronde-2");
     EXPECT_EQ(comp.inhoud(1, 1), "-");
     try {
         static_cast<void>(comp.mappen(2));
@@ -241,11 +242,10 @@ TEST(RondeInfo, IsEmptiedBeforeARoundThatCannotBeListed) {
     proef::ProefCompetitie proef(2, 1, 1);
     proef.schrijfZitting(1, 1, {});
     proef.laad();
-    proef.map().maakOnleesbaar(proef.competitieMap() + "Ronde-2");
+    proef.map().maakOnleesbareMap(proef.competitieMap() + "Ronde-2");
     EXPECT_THROW(BouwRondeInfo(proef.algemeen), Fout);
     EXPECT_EQ(Gespeeld(proef.algemeen.rondeInfo), (Teksten{"0", "0"}));
 }
-#endif
 
 } // namespace
 } // namespace lauwerkrans

@@ -182,6 +182,7 @@ TEST(Tekstbestand, TheExactNameWins) {
     EXPECT_EQ(Gelezen(map.pad() + "\\Data\\X.TXT"), "ook ander");
     EXPECT_EQ(Gelezen(map.pad() + "\\DATA\\x.txt"), "ander");
 }
+#endif
 
 TEST(Tekstbestand, ThatCannotBeOpenedIsAnErrorOfItsOwn) {
     const proef::Proefmap map;
@@ -189,11 +190,9 @@ TEST(Tekstbestand, ThatCannotBeOpenedIsAnErrorOfItsOwn) {
     const Fout fout = LeesFoutVan(map.pad() + "\\x.txt");
     EXPECT_EQ(fout.soort, FoutSoort::BestandNietLeesbaar);
     EXPECT_EQ(fout.bestand, map.pad() + "\\x.txt");
-    EXPECT_EQ(fout.code, std::errc::too_many_symbolic_link_levels);
+    EXPECT_EQ(fout.code, proef::onleesbaarFout);
     EXPECT_NE(fout.reden, "");
-    EXPECT_FALSE(systeem::IsBestand(map.pad() + "\\x.txt"));
 }
-#endif
 
 TEST(WerkelijkPad, IsThePathItselfWhenNothingIsFound) {
     const proef::Proefmap map;

@@ -2,12 +2,14 @@
 #include "output/uitvoer.h"
 
 #include <array>
-#include <csignal>
 #include <ostream>
 
+#ifndef _WIN32
+#include <csignal>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#endif
 
 #include <gtest/gtest.h>
 
@@ -56,10 +58,10 @@ TEST_F(Uitvoermap, IsMadeInTheProgramFolder) {
 TEST_F(Uitvoermap, IsLeftAsItIsWhenItIsThere) {
     map.schrijf("Lauwerkrans/oud.txt", "oud");
     std::filesystem::permissions(map.map() / "Lauwerkrans", std::filesystem::perms::owner_all);
+    const auto rechten = std::filesystem::status(map.map() / "Lauwerkrans").permissions();
     MaakUitvoerMap(uitvoer);
     EXPECT_EQ(map.inhoud(), (std::map<std::string, std::string>{{"Lauwerkrans/oud.txt", "oud"}}));
-    EXPECT_EQ(std::filesystem::status(map.map() / "Lauwerkrans").permissions(),
-              std::filesystem::perms::owner_all);
+    EXPECT_EQ(std::filesystem::status(map.map() / "Lauwerkrans").permissions(), rechten);
 }
 
 #ifndef _WIN32
@@ -183,6 +185,12 @@ TEST_P(Mislukt, SetsTheFlagBeforeItSaysSoAndClearsItAtTheStart) {
     EXPECT_EQ(vlaggen, (std::vector<int>{1, 0}));
 }
 
+#ifdef _WIN32
+TEST_P(Mislukt, WhereASpreadsheetHoldsTheFile) {
+    map.maakOnleesbaar(pad());
+    misluktZonderGevolg();
+}
+#else
 /// Whether an export in a process whose files may hold 10 bytes, a full disk, says so.
 bool ZegtDatDeSchijfVolIs(Uitvoer& uitvoer, const Export& export_) {
     const ::rlimit grens{10, 10};
@@ -206,6 +214,7 @@ TEST_P(Mislukt, OnAFullDiskLeavesTheEarlierFileWhole) {
     EXPECT_TRUE(WIFEXITED(stand) && WEXITSTATUS(stand) == 0);
     EXPECT_EQ(map.inhoud(), voor);
 }
+#endif
 
 constexpr std::array<Export, 3> exports = {{{"CsvLijnen", "Lauwr__LijnABC.CSV", MaakCSV_Lijnen},
                                             {"CsvTotaal", "Lauwr__LijnABC.CSV", MaakCSV_Totaal},

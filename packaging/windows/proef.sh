@@ -1,0 +1,157 @@
+#!/usr/bin/env bash
+# The installed program as a user meets it, under wine on a screen in memory: installs into the demo
+# suite, starts, calculates, exports, is refused a second time, is closed by an upgrade, and is taken
+# away again. Needs what bouw.sh made. Pictures of the steps stay in build/windows/beelden/.
+#
+# proef.sh [FOLDER]: FOLDER holds what the tour of run.sh left on Linux; the lists of the two systems
+# are compared byte by byte.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+# shellcheck source=tools/pakketten.sh
+source tools/pakketten.sh
+# shellcheck source=packaging/windows/wine.sh
+source packaging/windows/wine.sh
+
+linux=${1:+$(realpath "$1")}
+uit=$PWD/build/windows
+beelden=$uit/beelden
+suite=$uit/proef/Lauwerkrans-demo
+map=$suite/Lauwerkrans
+lijsten=$map/Lauwerkrans
+sleutel='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Lauwerkrans'
+titel='Bereken de Club- cq Lijnkampioenen van een parencompetitie.'
+
+mislukt() {
+  foto mislukt || true
+  echo "Mislukt: $1" >&2
+  exit 1
+}
+
+# wacht DOING COMMAND...: until the command succeeds, at most half a minute.
+wacht() {
+  local wat=$1 keer
+  shift
+  for ((keer = 0; keer < 300; ++keer)); do
+    ! "$@" >/dev/null 2>&1 || return 0
+    sleep 0.1
+  done
+  mislukt "$wat"
+}
+niet() { ! "$@"; }
+
+foto() { import -window root "$beelden/$1.png"; }
+
+# One wine desktop for all, so that the windows see each other and have title bars.
+start() { wine explorer /desktop=proef,1300x850 "$@" </dev/null >/dev/null 2>&1 & }
+
+heeft_venster() { xdotool search --name "^$1\$"; }
+
+# klik X Y: in pixels of the screen. The main window and a preview open in its middle.
+klik() {
+  xdotool mousemove "$1" "$2" click 1
+  sleep 0.5
+}
+
+# zelfde KIND: CSV or HTML.
+zelfde() {
+  cmp "$lijsten/Lauwr__LijnABC.$1" "$linux/13-voorbeeld-per-lijn.$1" ||
+    mislukt "de $1-lijst is niet gelijk aan die van Linux"
+}
+
+# shellcheck disable=SC2317 # called by the trap
+ruim_op() {
+  eind_wine
+  kill "$xvfb" 2>/dev/null || true
+}
+
+installeer windows windows_proef scherm
+installateur=$(find "$uit/pakketten" -name '*-installeren.exe')
+demo=$(find "$uit/pakketten" -name '*-demo.zip')
+rm -rf -- "$uit/proef" "$uit/wine_proef" "$beelden"
+mkdir -p "$uit/proef" "$beelden"
+unzip -q "$demo" -d "$uit/proef"
+rm -r "$map"
+
+Xvfb -displayfd 1 -screen 0 1300x850x24 >"$uit/proef/scherm" 2>/dev/null &
+xvfb=$!
+trap 'kill "$xvfb"' EXIT
+for ((keer = 0; keer < 100; ++keer)); do
+  [[ ! -s $uit/proef/scherm ]] || break
+  sleep 0.1
+done
+DISPLAY=:$(<"$uit/proef/scherm")
+export DISPLAY
+begin_wine "$uit/wine_proef"
+trap ruim_op EXIT
+unset WINEQT_QPA_PLATFORM # the real one
+for letters in Arial Tahoma 'Segoe UI' 'MS Shell Dlg' 'MS Shell Dlg 2' 'Microsoft Sans Serif'; do
+  wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "$letters" /d 'Liberation Sans' /f \
+    </dev/null >/dev/null
+done
+eind_wine # they count from the next start
+wineserver --wait
+wineserver -p
+
+start "$(windows_pad "$installateur")" /S "/D=$(windows_pad "$suite")"
+wacht 'installeren' wine reg query "$sleutel" /v EstimatedSize
+[[ -f $map/Lauwerkrans.exe && -f $map/verwijderen.exe ]] || mislukt 'het programma staat er niet'
+
+cd "$map" # as the start menu does
+start Lauwerkrans.exe
+wacht 'starten' heeft_venster "$titel"
+sleep 1
+foto 1-gestart
+
+start Lauwerkrans.exe
+wacht 'de weigering van een tweede exemplaar' heeft_venster Lauwerkrans
+foto 2-tweede
+xdotool key Return
+wacht 'het sluiten van de weigering' niet heeft_venster Lauwerkrans
+
+minimum=(13 10 8)
+for lijn in 0 1 2; do
+  klik 321 $((462 + 20 * lijn))
+  xdotool type "${minimum[lijn]}"
+done
+klik 868 610 # the heading that the tour uses
+xdotool type 'Kampioenen van de zomercompetitie'
+klik 389 442 # "Bereken" of "Alle"
+sleep 1
+foto 3-berekend
+klik 912 645 # "Uitvoerlijsten ..."
+wacht 'het afdrukvoorbeeld' heeft_venster Zittinguitslag
+sleep 1
+foto 4-voorbeeld
+klik 300 396 # "MaakCSV"
+wacht 'het CSV-bestand' test -s "$lijsten/Lauwr__LijnABC.CSV"
+sleep 1
+foto 5-csv
+xdotool key Return
+sleep 0.5
+klik 300 430 # "MaakHTML"
+wacht 'het HTML-bestand' test -s "$lijsten/Lauwr__LijnABC.HTML"
+sleep 1
+xdotool key Return
+if [[ -n $linux ]]; then
+  zelfde CSV
+  zelfde HTML
+fi
+
+# An upgrade asks the running copy to close; it saves its settings then.
+rm "$map/Leesmij.txt"
+start "$(windows_pad "$installateur")" /S "/D=$(windows_pad "$suite")"
+wacht 'het sluiten voor een nieuwe versie' niet heeft_venster "$titel"
+wacht 'de nieuwe versie' test -f "$map/Leesmij.txt"
+grep -q '^__TXT1=13' "$map/Lauwr.ini" || mislukt 'de instellingen zijn niet bewaard'
+[[ -s $lijsten/Lauwr__LijnABC.CSV ]] || mislukt 'de lijst is weg'
+sleep 1
+
+start "$(windows_pad "$map/verwijderen.exe")" /S
+wacht 'verwijderen' niet test -e "$map/verwijderen.exe"
+wacht 'het opruimen van de sleutel' niet wine reg query "$sleutel"
+over=$(cd "$map" && find . -type f | LC_ALL=C sort | tr '\n' ' ')
+[[ $over == './Lauwerkrans/Lauwr__LijnABC.CSV ./Lauwerkrans/Lauwr__LijnABC.HTML ./Lauwr.ini ' ]] ||
+  mislukt "na verwijderen staat er: $over"
+[[ -z $(find "$WINEPREFIX/drive_c/users" -name 'Lauwerkrans.lnk') ]] || mislukt 'de snelkoppeling bleef'
+echo "Het geïnstalleerde programma doet wat het moet; beelden in $beelden:"
+ls "$beelden"
