@@ -1,6 +1,6 @@
-; The installer for Windows: per user, without administrator rights. bouw.sh gives VERSIE, BRON (the
-; folder with the files), UIT (the installer to be made) and LIJSTEN (the folder with bestanden.nsh
-; and verwijder.nsh, which name every file that is packed).
+; The installer for Windows: per user, without administrator rights. bouw.sh gives VERSIE, PICTOGRAM
+; (the program's icon), UIT (the installer to be made) and LIJSTEN (the folder with bestanden.nsh and
+; verwijder.nsh, which name every file that is packed).
 Unicode true
 Target amd64-unicode
 ManifestSupportedOS Win10
