@@ -65,7 +65,7 @@ Function ${un}SluitProgramma
   IntCmp $R0 10 vraag opnieuw vraag
   vraag:
   StrCpy $R0 0
-  MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${NAAM} is nog gestart. Sluit het programma en kies Opnieuw." /SD IDCANCEL IDRETRY opnieuw
+  MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${NAAM} is nog gestart. Sluit het programma en probeer het opnieuw." /SD IDCANCEL IDRETRY opnieuw
   SetErrorLevel 3
   Quit
   gesloten:
