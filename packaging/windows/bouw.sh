@@ -68,9 +68,10 @@ leg_demo_neer() {
   cp -r "$pakket" "$demo/Lauwerkrans"
 }
 
-# zip_map NAME: a folder of build/windows/pakket as a ZIP, files in a fixed order.
+# zip_map FOLDER NAME: a folder of build/windows/pakket as a ZIP, files in a fixed order. Empty folders
+# count: sessions that are still to be played have one.
 zip_map() {
-  (cd "$uit/pakket" && find "$1" -type f | LC_ALL=C sort | zip -q -9 -X "$pakketten/$2.zip" -@)
+  (cd "$uit/pakket" && find "$1" \( -type f -o -type d -empty \) | LC_ALL=C sort | zip -q -9 -X "$pakketten/$2.zip" -@)
 }
 
 # What the installer writes and what its counterpart takes away: exactly the packed files.

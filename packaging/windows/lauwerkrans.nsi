@@ -1,6 +1,6 @@
-; The installer for Windows: per user, without administrator rights. bouw.sh gives VERSIE, BRON (the
-; folder with the files), UIT (the installer to be made) and LIJSTEN (the folder with bestanden.nsh
-; and verwijder.nsh, which name every file that is packed).
+; The installer for Windows: per user, without administrator rights. bouw.sh gives VERSIE, PICTOGRAM
+; (the program's icon), UIT (the installer to be made) and LIJSTEN (the folder with bestanden.nsh and
+; verwijder.nsh, which name every file that is packed).
 Unicode true
 Target amd64-unicode
 ManifestSupportedOS Win10
@@ -65,7 +65,7 @@ Function ${un}SluitProgramma
   IntCmp $R0 10 vraag opnieuw vraag
   vraag:
   StrCpy $R0 0
-  MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${NAAM} is nog gestart. Sluit het programma en kies Opnieuw." /SD IDCANCEL IDRETRY opnieuw
+  MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${NAAM} is nog gestart. Sluit het programma en probeer het opnieuw." /SD IDCANCEL IDRETRY opnieuw
   SetErrorLevel 3
   Quit
   gesloten:

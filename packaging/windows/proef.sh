@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The installed program as a user meets it, under wine on a screen in memory: installs into the demo
 # suite, starts, calculates, exports, is refused a second time, is closed by an upgrade, and is taken
-# away again. Needs what bouw.sh made. Pictures of the steps stay in build/windows/beelden/.
+# away again, without and with what is the user's own. Needs what bouw.sh made. Pictures of the steps stay in build/windows/beelden/.
 #
 # proef.sh [FOLDER]: FOLDER holds what the tour of run.sh left on Linux; the lists of the two systems
 # are compared byte by byte.
@@ -56,6 +56,13 @@ klik() {
 zelfde() {
   cmp "$lijsten/Lauwr__LijnABC.$1" "$linux/13-voorbeeld-per-lijn.$1" ||
     mislukt "de $1-lijst is niet gelijk aan die van Linux"
+}
+
+wacht_verwijderd() {
+  wacht 'verwijderen' niet test -e "$map/verwijderen.exe"
+  wacht 'het opruimen van de sleutel' niet wine reg query "$sleutel"
+  [[ -z $(find "$WINEPREFIX/drive_c/users" -name 'Lauwerkrans.lnk') ]] ||
+    mislukt 'de snelkoppeling bleef'
 }
 
 # shellcheck disable=SC2317 # called by the trap
@@ -131,6 +138,7 @@ sleep 0.5
 klik 300 430 # "MaakHTML"
 wacht 'het HTML-bestand' test -s "$lijsten/Lauwr__LijnABC.HTML"
 sleep 1
+foto 6-html
 xdotool key Return
 if [[ -n $linux ]]; then
   zelfde CSV
@@ -138,20 +146,43 @@ if [[ -n $linux ]]; then
 fi
 
 # An upgrade asks the running copy to close; it saves its settings then.
+# The size in the list of programs is the last that the installer writes.
 rm "$map/Leesmij.txt"
+wine reg delete "$sleutel" /v EstimatedSize /f </dev/null >/dev/null
 start "$(windows_pad "$installateur")" /S "/D=$(windows_pad "$suite")"
 wacht 'het sluiten voor een nieuwe versie' niet heeft_venster "$titel"
-wacht 'de nieuwe versie' test -f "$map/Leesmij.txt"
+wacht 'de nieuwe versie' wine reg query "$sleutel" /v EstimatedSize
+[[ -f $map/Leesmij.txt ]] || mislukt 'de nieuwe versie is niet compleet'
 grep -q '^__TXT1=13' "$map/Lauwr.ini" || mislukt 'de instellingen zijn niet bewaard'
 [[ -s $lijsten/Lauwr__LijnABC.CSV ]] || mislukt 'de lijst is weg'
+start Lauwerkrans.exe
+wacht 'starten van de nieuwe versie' heeft_venster "$titel"
 sleep 1
+foto 7-bijgewerkt
 
+# Removal asks the running copy to close too; what is the user's own stays.
+cd "$suite"
 start "$(windows_pad "$map/verwijderen.exe")" /S
-wacht 'verwijderen' niet test -e "$map/verwijderen.exe"
-wacht 'het opruimen van de sleutel' niet wine reg query "$sleutel"
+wacht 'het sluiten voor het verwijderen' niet heeft_venster "$titel"
+wacht_verwijderd
 over=$(cd "$map" && find . -type f | LC_ALL=C sort | tr '\n' ' ')
 [[ $over == './Lauwerkrans/Lauwr__LijnABC.CSV ./Lauwerkrans/Lauwr__LijnABC.HTML ./Lauwr.ini ' ]] ||
   mislukt "na verwijderen staat er: $over"
-[[ -z $(find "$WINEPREFIX/drive_c/users" -name 'Lauwerkrans.lnk') ]] || mislukt 'de snelkoppeling bleef'
+foto 8-verwijderd
+
+# Once more, with the tick at what is the user's own: nothing stays.
+start "$(windows_pad "$installateur")" /S "/D=$(windows_pad "$suite")"
+wacht 'nog eens installeren' wine reg query "$sleutel" /v EstimatedSize
+start "$(windows_pad "$map/verwijderen.exe")"
+wacht 'de vraag wat er weg mag' heeft_venster 'Lauwerkrans-de.*'
+sleep 1
+klik 587 421 # "Instellingen en lijsten"
+foto 9-vinkje
+klik 762 580 # "Verwijderen"
+wacht_verwijderd
+wacht 'het opruimen van de map' niet test -e "$map"
+[[ -s $suite/Mappen.ini ]] || mislukt 'de administratie is geraakt'
+sleep 1
+foto 10-alles-verwijderd
 echo "Het geïnstalleerde programma doet wat het moet; beelden in $beelden:"
-ls "$beelden"
+ls -v "$beelden"
