@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "output/afdruk.h"
+#include "output/uitvoer.h"
 #include "ui/berichten.h"
 
 namespace lauwerkrans {
@@ -76,10 +77,6 @@ int Afdrukken(const QPrinter& printer) {
     return printer.supportsMultipleCopies() ? 1 : std::max(1, printer.copyCount());
 }
 
-void MeldMislukt(const Melder& meld, const QString& naam) {
-    meld({"Het bestand '" + naam.toStdString() + "' kan niet worden gemaakt!", Icoon::Uitroep});
-}
-
 Printeinde DrukAfOpPrinter(const Printopdracht& opdracht, const Printomgeving& omgeving,
                            QWidget* venster, const Melder& meld) {
     QPrinter printer(QPrinter::HighResolution);
@@ -132,7 +129,7 @@ Printeinde DrukAfInPdf(const Printopdracht& opdracht, const Printomgeving& omgev
     if (pad.isEmpty()) return Printeinde::Geannuleerd;
     const Zandloper zandloper;
     if (SchrijfPdf(pad, opdracht)) return Printeinde::Gedrukt;
-    MeldMislukt(meld, QFileInfo(pad).fileName());
+    meld(NietTeMaken(QFileInfo(pad).fileName().toStdString()));
     return Printeinde::Mislukt;
 }
 

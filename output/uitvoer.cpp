@@ -34,12 +34,16 @@ std::string Uitvoernaam(const Uitvoer& uitvoer, std::string_view extensie) {
         .append(extensie);
 }
 
+Melding NietTeMaken(const std::string& naam) {
+    return {"Het bestand '" + naam + "' kan niet worden gemaakt!", Icoon::Uitroep};
+}
+
 bool Geschreven(Uitvoer& uitvoer, const std::string& naam, const std::function<void()>& schrijf) {
     try {
         schrijf();
     } catch (const Fout&) {
         uitvoer.fout = 1;
-        uitvoer.meld({"Het bestand '" + naam + "' kan niet worden gemaakt!", Icoon::Uitroep});
+        uitvoer.meld(NietTeMaken(naam));
         return false;
     }
     return true;

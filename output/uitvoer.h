@@ -51,6 +51,9 @@ struct Uitvoerregel {
 /// extension (".CSV").
 [[nodiscard]] std::string Uitvoernaam(const Uitvoer& uitvoer, std::string_view extensie);
 
+/// The message for a file that cannot be made.
+[[nodiscard]] Melding NietTeMaken(const std::string& naam);
+
 /// Runs what writes the file `naam`. When that throws Fout: says that the file cannot be made, sets
 /// the error flag and returns false.
 [[nodiscard]] bool Geschreven(Uitvoer& uitvoer, const std::string& naam,

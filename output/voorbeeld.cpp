@@ -22,8 +22,6 @@ constexpr int schaduw = 4;                        // pixels that the shadow stic
 constexpr int regelStap = 20;                     // pixels
 constexpr double normaal = 1 / maten::mmPerPixel; // pixels per millimetre at 100 %
 
-int Afgerond(double pixels) { return qRound(pixels); }
-
 /// Where a page of this length lies in a box: in the middle, or at minus the scroll value.
 int Begin(int box, int lengte, int schuif) { return lengte > box ? -schuif : (box - lengte) / 2; }
 
@@ -52,7 +50,7 @@ void BladVlak::toon(std::shared_ptr<const Bladen> bladen, std::size_t nummer) {
 
 void BladVlak::zetSchaal(double schaal) {
     schaal_ = schaal;
-    resize(Afgerond(bladmaat::bladBreedte * schaal), Afgerond(bladen_->hoogte() * schaal));
+    resize(qRound(bladmaat::bladBreedte * schaal), qRound(bladen_->hoogte() * schaal));
     update();
 }
 
