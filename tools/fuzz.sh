@@ -16,7 +16,8 @@ esac
 # The files of the checked-in competitions that a reader starts from, by the end of their names.
 declare -A zaad=([compbums]=compbums.txt [compdata]=compdata.txt [leden]=orvspelers.txt
   [mappen]=mappen.ini [perczit]='perczit-*.txt' [rondedata]=rondedata.txt
-  [lijstformaat]='perczit-*.txt' [tekst]='compbums.txt' [instellingen]=lauwr.ini)
+  [lijstformaat]='perczit-*.txt' [tekst]='compbums.txt' [instellingen]=lauwr.ini
+  [bereken]='perczit-*.txt')
 doelen=("$@")
 ((${#doelen[@]})) || doelen=("${!zaad[@]}")
 

@@ -1,0 +1,78 @@
+// The calculation on arbitrary rows: what it gives is what the plain calculation gives.
+#include "kern/gevallen.h"
+
+#include "data/getallen.h"
+#include "suite.h"
+
+using namespace lauwerkrans;
+
+namespace {
+
+/// Choices from the bytes that are tried; 0 when they are used up.
+class Bron {
+public:
+    Bron(const std::uint8_t* gegevens, std::size_t lengte) : nu_(gegevens), eind_(nu_ + lengte) {}
+
+    [[nodiscard]] bool op() const { return nu_ == eind_; }
+    unsigned byte() { return op() ? 0 : *nu_++; }
+    unsigned tot(unsigned aantal) { return byte() % aantal; }
+    std::string tekst(unsigned tekens) {
+        std::string gelezen;
+        while (gelezen.size() < tekens && !op())
+            gelezen += static_cast<char>(byte());
+        return gelezen;
+    }
+
+private:
+    const std::uint8_t* nu_;
+    const std::uint8_t* eind_;
+};
+
+/// A row of a session that is played from now on.
+proef::Score MaakScore(Bron& bron, proef::Geval& geval) {
+    proef::Score score;
+    const unsigned ronde = bron.tot(static_cast<unsigned>(geval.ronden.size()));
+    const unsigned zitting = bron.tot(static_cast<unsigned>(geval.ronden[0].size()));
+    geval.ronden[ronde][zitting] = '1';
+    score.ronde = static_cast<std::uint8_t>(ronde + 1);
+    score.zitting = static_cast<std::uint8_t>(zitting + 1);
+    score.lijn = static_cast<char>('A' + bron.tot(static_cast<unsigned>(geval.criteria.size())));
+    score.lid1 = 1 + bron.tot(99);
+    score.lid2 = 1 + bron.tot(99);
+    score.spellen = static_cast<std::int32_t>(bron.byte());
+    const unsigned vorm = bron.byte();
+    score.bum = (vorm & 1U) != 0;
+    score.percentage = bron.tekst(vorm >> 1U & 7U);
+    return score;
+}
+
+proef::Geval MaakGeval(Bron& bron) {
+    proef::Geval geval;
+    geval.ronden.assign(1 + bron.tot(4), std::string(1 + bron.tot(4), '0'));
+    geval.criteria.assign(1 + bron.tot(4), "0");
+    for (auto& criterium : geval.criteria)
+        criterium = std::to_string(bron.tot(5));
+    while (!bron.op())
+        geval.scores.push_back(MaakScore(bron, geval));
+    return geval;
+}
+
+/// The plain calculation knows percentages as the suite writes them: no tab and no sign.
+bool IsGewoon(const std::string& percentage) {
+    return IsPercentage(percentage) && percentage.find_first_of("\t+-") == std::string::npos;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* gegevens, std::size_t lengte) {
+    Bron bron(gegevens, lengte);
+    proef::Geval geval = MaakGeval(bron);
+    // With the percentages as they are, which may be refused, and then with those that may not.
+    fuzz::Probeer([&] { static_cast<void>(VolgensProgramma(geval, {})); });
+    std::erase_if(geval.scores,
+                  [](const proef::Score& score) { return !IsGewoon(score.percentage); });
+    for (const Opties& opties : proef::AlleOpties()) {
+        if (VolgensProgramma(geval, opties) != VolgensNaief(geval, opties)) __builtin_trap();
+    }
+    return 0;
+}
