@@ -121,7 +121,7 @@ for lijn in 0 1 2; do
   xdotool type "${minimum[lijn]}"
 done
 klik 868 610 # the heading that the tour uses
-xdotool type 'Kampioenen van de zomercompetitie'
+xdotool type 'Kampioenen van de voorjaarscompetitie'
 klik 389 442 # "Bereken" of "Alle"
 sleep 1
 foto 3-berekend
