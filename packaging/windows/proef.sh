@@ -61,7 +61,7 @@ zelfde() {
 wacht_verwijderd() {
   wacht 'verwijderen' niet test -e "$map/verwijderen.exe"
   wacht 'het opruimen van de sleutel' niet wine reg query "$sleutel"
-  [[ -z $(find "$WINEPREFIX/drive_c/users" -name 'Lauwerkrans.lnk') ]] ||
+  [[ -z $(find "$WINEPREFIX/drive_c/users" -name 'Lauwerkrans*.lnk') ]] ||
     mislukt 'de snelkoppeling bleef'
 }
 
