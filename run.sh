@@ -89,7 +89,8 @@ leid_rond() {
   rm -rf -- "$demo/beelden"
   mkdir -p "$demo/beelden"
   XDG_RUNTIME_DIR=$werk QT_QPA_PLATFORM=xcb \
-    timeout 300 "$release/app/rondleiding" "$demo/Lauwerkrans" "$demo/beelden" &
+    timeout 300 "$release/app/rondleiding" "$demo/Lauwerkrans" "$demo/beelden" \
+    tests/gegevens/handleiding &
   tour_pid=$!
   wait "$tour_pid" # a signal ends a wait at once
   tour_pid=''

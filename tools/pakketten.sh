@@ -12,6 +12,7 @@ pakketten_bouwen=(
   qt6-base-dev    # the windows (6.4); brings the libraries and the plugin for X11 with it
   libgtest-dev    # the tests (GoogleTest)
   libbenchmark-dev # the benchmarks (Google Benchmark)
+  cmark-gfm       # makes the pages of the manual of its Markdown, with tables
 )
 
 # shellcheck disable=SC2034

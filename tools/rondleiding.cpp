@@ -1,6 +1,6 @@
 // A short tour of the real windows: starts the main window on a program folder, presses its
-// buttons and keeps a picture of every state. Arguments: the program folder and the folder for the
-// pictures.
+// buttons and keeps a picture of every state. Arguments: the program folder, the folder for the
+// pictures and the suite's folder with the example of the manual.
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
@@ -9,11 +9,13 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <QTimer>
 
 #include <array>
 
 #include "app/frmMain_start.h"
 #include "tools/generator.h"
+#include "ui/berichten.h"
 #include "ui/ontwerp.h"
 #include "ui/stijl.h"
 #include "ui/taal.h"
@@ -39,12 +41,17 @@ public:
     void loopRond() {
         vulMinima();
         Vind<QLineEdit>(venster_, "txtKop1")
-            ->setText(QStringLiteral("Kampioenen van de zomercompetitie"));
+            ->setText(QStringLiteral("Kampioenen van de voorjaarscompetitie"));
         bewaar("00-start");
+        bewaarDeel("Frame1", "15-competitie");
+        bewaarDeel("Frame3", "16-criteria");
+        bewaarDeel("Frame2", "17-instellingen");
+        bewaarDeel("Frame5", "18-lid");
         druk("cmd1_1");
         bewaar("01-lijn-A");
         druk("cmd1_0");
         bewaar("02-alle-lijnen");
+        bewaarDeel("Frame4", "19-uitvoer");
         voerUit("frmPrinten", "13-voorbeeld-per-lijn");
         vink("chkGewogen");
         vink("chkZitDetails");
@@ -68,7 +75,36 @@ public:
         bewaarAndere("frmToelichting", "09-toelichting");
     }
 
+    /// The example of the manual: one line of eight pairs, three sessions of which one is short.
+    void loopVoorbeeldDoor() {
+        venster_.rijen().zetCriterium(1, "3");
+        vink("chkZitDetails");
+        druk("cmd1_1");
+        bewaar("20-voorbeeld-gewoon");
+        vink("chkGewogen");
+        druk("cmd1_1");
+        bewaar("21-voorbeeld-gewogen");
+        vink("chkGewogen");
+        vink("chkBuiMed");
+        druk("cmd1_1");
+        bewaar("22-voorbeeld-buiten-mededinging");
+        druk("cmd2_1");
+        bewaar("23-voorbeeld-controle");
+    }
+
     void bewaar(const char* naam) { bewaarVenster(venster_, naam); }
+
+    /// The message of a calculation without a minimum, as its box shows it.
+    void bewaarMelding(const char* naam) {
+        venster_.rijen().zetCriterium(1, "");
+        druk("cmd1_1");
+        QTimer::singleShot(0, [this, naam] {
+            QWidget& vak = *QApplication::activeModalWidget();
+            bewaarVenster(vak, naam);
+            vak.close();
+        });
+        ToonMelding(&venster_, meldingen_.at(0));
+    }
 
     /// Prints the messages that were shown. False when there were others than expected, or when a
     /// picture could not be written.
@@ -96,6 +132,11 @@ private:
         if (venster.grab().save(pad)) return;
         QTextStream(stderr) << pad << " kan niet worden geschreven." << Qt::endl;
         gelukt_ = false;
+    }
+
+    /// A part of the main window.
+    void bewaarDeel(const char* deel, const char* naam) {
+        bewaarVenster(*Vind<QWidget>(venster_, deel), naam);
     }
 
     /// The window of this name that is on show, or the main window when there is none.
@@ -154,6 +195,18 @@ QString ProgrammaMap(const QTemporaryDir& map, const QByteArray& mappenIni) {
     return map.filePath(QStringLiteral("Lauwerkrans"));
 }
 
+/// The pictures of the manual's example; `suite` is the suite's folder.
+bool ToonVoorbeeld(const QString& suite, const QString& beelden) {
+    const QByteArray map = QDir(suite).absolutePath().toUtf8();
+    const QTemporaryDir eigen;
+    const QString programmaMap = ProgrammaMap(eigen, "ORVMAP=" + map + "\r\nCOMMAP=" + map +
+                                                         "\\Competities\r\nACTCOM=Voorbeeld\r\n");
+    Rondleiding rondleiding(programmaMap, beelden);
+    rondleiding.loopVoorbeeldDoor();
+    rondleiding.bewaarMelding("24-melding");
+    return rondleiding.klaar(1);
+}
+
 /// One picture of the window as it starts on a program folder.
 bool ToonStart(const QString& programmaMap, const QString& beelden, const char* naam,
                std::size_t verwachteMeldingen) {
@@ -185,8 +238,8 @@ bool ToonAndereCompetities(const QString& programmaMap, const QString& beelden) 
 int main(int argc, char** argv) {
     QApplication toepassing(argc, argv);
     const QStringList woorden = QApplication::arguments();
-    if (woorden.size() != 3) {
-        QTextStream(stderr) << "gebruik: rondleiding PROGRAMMAMAP BEELDENMAP" << Qt::endl;
+    if (woorden.size() != 4) {
+        QTextStream(stderr) << "gebruik: rondleiding PROGRAMMAMAP BEELDENMAP VOORBEELD" << Qt::endl;
         return 2;
     }
     ZetStijl(toepassing);
@@ -195,5 +248,8 @@ int main(int argc, char** argv) {
     Rondleiding rondleiding(woorden[1], woorden[2]);
     rondleiding.loopRond();
     const bool gelukt = rondleiding.klaar(4); // two lists, each as CSV and as HTML
-    return ToonAndereCompetities(woorden[1], woorden[2]) && gelukt ? 0 : 1;
+    return ToonAndereCompetities(woorden[1], woorden[2]) && ToonVoorbeeld(woorden[3], woorden[2]) &&
+                   gelukt
+               ? 0
+               : 1;
 }

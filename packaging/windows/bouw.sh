@@ -20,7 +20,7 @@ bouw() {
   # What CMake remembers of another Qt is of no use.
   grep -qsxF "LAUWERKRANS_QT:PATH=$qt" "$uit/CMakeCache.txt" || rm -f -- "$uit/CMakeCache.txt"
   LAUWERKRANS_QT=$qt configureer windows >build/windows.log || { cat build/windows.log >&2; return 1; }
-  cmake --build --preset windows --target Lauwerkrans kern_tests gui_tests maak_competitie
+  cmake --build --preset windows --target Lauwerkrans kern_tests gui_tests maak_competitie handleiding
 }
 
 test_alles() {
@@ -42,6 +42,7 @@ leg_neer() {
   printf '[Paths]\r\nPrefix=.\r\n' >"$pakket/qt.conf" # else Qt looks for them in the folder above
   cp "$gcc_dlls"/lib{stdc++-6,gcc_s_seh-1}.dll "$thread_dlls/libwinpthread-1.dll" "$pakket"
   x86_64-w64-mingw32-strip "$pakket"/lib*.dll
+  cp -r "$uit/handleiding" "$pakket"
   licenties
 }
 

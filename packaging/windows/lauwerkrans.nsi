@@ -125,6 +125,7 @@ Section "${NAAM}"
   SetOutPath "$INSTDIR\${NAAM}"
   WriteUninstaller "$INSTDIR\${NAAM}\verwijderen.exe"
   CreateShortcut "$SMPROGRAMS\${NAAM}.lnk" "$INSTDIR\${NAAM}\${NAAM}.exe"
+  CreateShortcut "$SMPROGRAMS\${NAAM} handleiding.lnk" "$INSTDIR\${NAAM}\handleiding\index.html"
   WriteRegStr HKCU "${SLEUTEL}" "DisplayName" "${NAAM}"
   WriteRegStr HKCU "${SLEUTEL}" "DisplayVersion" "${VERSIE}"
   WriteRegStr HKCU "${SLEUTEL}" "DisplayIcon" "$INSTDIR\${NAAM}\${NAAM}.exe"
@@ -146,6 +147,7 @@ Section "un.${NAAM}" un_programma
   !include "${LIJSTEN}/verwijder.nsh"
   Delete "$INSTDIR\verwijderen.exe"
   Delete "$SMPROGRAMS\${NAAM}.lnk"
+  Delete "$SMPROGRAMS\${NAAM} handleiding.lnk"
   DeleteRegKey HKCU "${SLEUTEL}"
 SectionEnd
 

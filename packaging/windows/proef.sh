@@ -61,7 +61,7 @@ zelfde() {
 wacht_verwijderd() {
   wacht 'verwijderen' niet test -e "$map/verwijderen.exe"
   wacht 'het opruimen van de sleutel' niet wine reg query "$sleutel"
-  [[ -z $(find "$WINEPREFIX/drive_c/users" -name 'Lauwerkrans.lnk') ]] ||
+  [[ -z $(find "$WINEPREFIX/drive_c/users" -name 'Lauwerkrans*.lnk') ]] ||
     mislukt 'de snelkoppeling bleef'
 }
 
@@ -121,7 +121,7 @@ for lijn in 0 1 2; do
   xdotool type "${minimum[lijn]}"
 done
 klik 868 610 # the heading that the tour uses
-xdotool type 'Kampioenen van de zomercompetitie'
+xdotool type 'Kampioenen van de voorjaarscompetitie'
 klik 389 442 # "Bereken" of "Alle"
 sleep 1
 foto 3-berekend

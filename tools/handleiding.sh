@@ -1,0 +1,114 @@
+#!/usr/bin/env bash
+# The manual (docs/handleiding) as HTML: handleiding.sh VERSION FOLDER. The folder is made anew. A
+# link or a picture that leads nowhere is an error.
+#
+# handleiding.sh beelden: makes the manual's pictures, and those of README.md, again from the tour of
+# run.sh.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+bron=docs/handleiding
+
+beelden() {
+  env -u DISPLAY -u WAYLAND_DISPLAY ./run.sh
+  local beeld
+  rm -rf -- "$bron/beelden"
+  mkdir -p "$bron/beelden"
+  while read -r beeld; do
+    cp "build/demo/beelden/$beeld" "$bron/beelden/$beeld"
+  done < <(grep -ohE 'beelden/[^)]+\.png' "$bron"/*.md | sed 's|.*/||' | sort -u)
+  cp build/demo/beelden/02-alle-lijnen.png docs/beelden/hoofdvenster.png
+}
+
+titel() { sed -n '1s/^# //p' "$bron/$1.md"; }
+
+# The pages in the order in which the first one names them.
+volgorde() {
+  echo index
+  grep -oE '\]\([a-z_]+\.md\)' "$bron/index.md" | sed -E 's/^..(.*)\.md\)$/\1/' | awk '!gezien[$0]++'
+}
+
+# verwijzing PAGE TEXT: nothing when there is no page.
+verwijzing() { [[ -z $1 ]] || printf '<a href="%s.html">%s</a>\n' "$1" "$2"; }
+
+# Headings get a name of their own, to which a link may lead.
+inhoud() {
+  cmark-gfm --extension table "$bron/$1.md" | sed -E 's/href="([a-z_]+)\.md/href="\1.html/g' |
+    awk 'match($0, /^<h[23]>[^<]*</) {
+      naam = tolower(substr($0, 5, RLENGTH - 5))
+      gsub(/[^a-z0-9]+/, "-", naam)
+      $0 = substr($0, 1, 3) " id=\"" naam "\"" substr($0, 4)
+    } { print }'
+}
+
+# pagina NAME PREVIOUS NEXT
+pagina() {
+  local naam
+  naam=$(titel "$1")
+  cat <<KOP
+<!DOCTYPE html>
+<html lang="nl">
+<head>
+<meta charset="utf-8">
+<meta name="viewport" content="width=device-width, initial-scale=1">
+<title>$naam</title>
+<link rel="stylesheet" href="handleiding.css">
+</head>
+<body>
+<header><a href="index.html">Handleiding Lauwerkrans</a></header>
+<main>
+KOP
+  inhoud "$1"
+  echo '</main>'
+  echo '<nav>'
+  printf '<span>%s</span>\n' "$(verwijzing "$2" "Vorige: $(titel "${2:-index}")")"
+  printf '<span>%s</span>\n' "$(verwijzing "$3" "Volgende: $(titel "${3:-index}")")"
+  echo '</nav>'
+  echo "<footer>Lauwerkrans $versie</footer>"
+  echo '</body>'
+  echo '</html>'
+}
+
+# Every link of every page leads to a file beside it and, behind a "#", to a heading in there.
+controleer() {
+  local pagina doel bestand anker fouten=0
+  while IFS=: read -r pagina doel; do
+    bestand=${doel%%#*}
+    anker=${doel#"$bestand"}
+    bestand=${bestand:-$(basename "$pagina")}
+    [[ -f $uit/$bestand ]] && { [[ -z $anker ]] || grep -qF "id=\"${anker#\#}\"" "$uit/$bestand"; } &&
+      continue
+    echo "$pagina: $doel leidt nergens heen." >&2
+    fouten=$((fouten + 1))
+  done < <(grep -oE '(href|src)="[^"]*"' "$uit"/*.html | sed -E 's/(href|src)="([^"]*)"/\2/')
+  ((fouten == 0))
+}
+
+maak() {
+  command -v cmark-gfm >/dev/null || {
+    echo "Het pakket cmark-gfm ontbreekt (tools/pakketten.sh)." >&2
+    return 1
+  }
+  local -a namen
+  local i
+  mapfile -t namen < <(volgorde)
+  rm -rf -- "$uit"
+  mkdir -p "$uit"
+  for i in "${!namen[@]}"; do
+    pagina "${namen[i]}" "$( ((i == 0)) || echo "${namen[i - 1]}")" "${namen[i + 1]:-}" \
+      >"$uit/${namen[i]}.html"
+  done
+  cp -r "$bron/beelden" "$bron/handleiding.css" "$uit"
+  controleer
+}
+
+if [[ $# == 1 && $1 == beelden ]]; then
+  beelden
+elif (($# == 2)); then
+  versie=$1
+  uit=$2
+  maak
+else
+  echo 'Gebruik: handleiding.sh VERSIE MAP of handleiding.sh beelden' >&2
+  exit 2
+fi
