@@ -68,14 +68,15 @@ bouw() {
   werk=$(mktemp -d "$(realpath "$kast")/bouw.XXXXXX") # a symbolic link in the path breaks the build
   trap ruim_op EXIT
   haal_bron
-  mkdir "$werk/b"
-  cmake -S "$werk/bron" -B "$werk/b" "${vlaggen[@]}" \
+  # Its name does not begin that of the sources: their places are mapped by the first letters alike.
+  mkdir "$werk/gebouwd"
+  cmake -S "$werk/bron" -B "$werk/gebouwd" "${vlaggen[@]}" \
     -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw.cmake" \
     -DCMAKE_PROJECT_QtBase_INCLUDE="$hier/qt_na_project.cmake" \
     -DCMAKE_INSTALL_PREFIX="$werk/qt" >"$werk/configureren.log" ||
     { cat "$werk/configureren.log"; return 1; }
-  cmake --build "$werk/b"
-  cmake --install "$werk/b" --strip >/dev/null
+  cmake --build "$werk/gebouwd"
+  cmake --install "$werk/gebouwd" --strip >/dev/null
   mkdir -p "$werk/qt/translations"
   cp /usr/share/qt6/translations/qtbase_nl.qm "$werk/qt/translations" # Debian packs it apart
   # Who may replace the DLLs may know what they were made of.
