@@ -11,6 +11,9 @@ target_compile_options(lauwerkrans_opties INTERFACE
 # GCC 12 sees an overlap in "text" + std::string at -O3 that cannot be (GCC bug 105651).
 target_compile_options(lauwerkrans_opties INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
+# What is given to users does not name the folders of the machine that built it.
+add_compile_options($<$<AND:$<CONFIG:Release>,$<COMPILE_LANGUAGE:CXX>>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
+
 if(LAUWERKRANS_SANITIZERS)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
     -fno-omit-frame-pointer)

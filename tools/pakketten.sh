@@ -85,6 +85,17 @@ pakketten_windows_proef=(
   unzip
 )
 
+# The package for Linux: a menu's view of it, and a hand that closes the program.
+# shellcheck disable=SC2034
+pakketten_linux_proef=(
+  xvfb
+  openbox
+  xdotool
+  desktop-file-utils # judges the entry in the menu
+  file            # tells what the pictures are
+  libglib2.0-bin  # starts the program from it as a desktop does
+)
+
 is_geinstalleerd() {
   dpkg-query --show --showformat='${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
 }
@@ -135,6 +146,9 @@ installeer() {
     return 1
   fi
 }
+
+# The version of the program, as CMake knows it.
+versie_van_programma() { sed -nE 's/^project\(Lauwerkrans VERSION ([0-9.]+) .*/\1/p' CMakeLists.txt; }
 
 # configureer PRESET: also when the checkout has moved, which CMake's cache does not survive.
 configureer() {
