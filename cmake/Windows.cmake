@@ -16,9 +16,11 @@ endif()
 
 # lauwerkrans_windows_gegevens(TARGET): the picture, the manifest and the version of a program.
 function(lauwerkrans_windows_gegevens doel)
+  set(van ${PROJECT_SOURCE_DIR}/packaging/windows)
   set(rc ${PROJECT_BINARY_DIR}/lauwerkrans.rc)
-  configure_file(${PROJECT_SOURCE_DIR}/packaging/windows/lauwerkrans.rc.in ${rc} @ONLY)
+  set(manifest ${PROJECT_BINARY_DIR}/lauwerkrans.manifest)
+  configure_file(${van}/lauwerkrans.rc.in ${rc} @ONLY)
+  configure_file(${van}/lauwerkrans.manifest.in ${manifest} @ONLY)
   target_sources(${doel} PRIVATE ${rc})
-  set_source_files_properties(${rc} PROPERTIES OBJECT_DEPENDS
-    "${PROJECT_SOURCE_DIR}/packaging/windows/lauwerkrans.ico;${PROJECT_SOURCE_DIR}/packaging/windows/lauwerkrans.manifest")
+  set_source_files_properties(${rc} PROPERTIES OBJECT_DEPENDS "${van}/lauwerkrans.ico;${manifest}")
 endfunction()

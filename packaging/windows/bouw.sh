@@ -1,16 +1,18 @@
 #!/usr/bin/env bash
 # The version for Windows: builds the program and all tests, runs the tests under wine, and puts the
-# portable package, the demo and the installer into build/windows/pakketten/.
+# portable package, the demo and the installer into build/pakketten/.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 # shellcheck source=tools/pakketten.sh
 source tools/pakketten.sh
 # shellcheck source=packaging/windows/wine.sh
 source packaging/windows/wine.sh
+# shellcheck source=packaging/bouwpaden.sh
+source packaging/bouwpaden.sh
 
 hier=$PWD/packaging/windows
 uit=$PWD/build/windows
-pakketten=$uit/pakketten
+pakketten=$PWD/build/pakketten
 pakket=$uit/pakket/Lauwerkrans
 
 thread_dlls=/usr/x86_64-w64-mingw32/lib
@@ -56,6 +58,7 @@ licenties() {
   als_tekst $van/gcc-mingw-w64-base/copyright "$naar/gcc.txt"
   als_tekst $van/mingw-w64-common/copyright "$naar/mingw-w64.txt"
   als_tekst <(sed "s|@VERSIE@|$versie|; s|@QT@|$qt_versie|" "$hier/leesmij.txt") "$pakket/Leesmij.txt"
+  als_tekst CHANGELOG.md "$pakket/CHANGELOG.txt"
 }
 
 als_tekst() { sed 's/\r*$/\r/' "$1" >"$2"; }
@@ -102,7 +105,7 @@ installeer bouwen scherm toetsen windows
 gcc_dlls=$(dirname "$(x86_64-w64-mingw32-gcc-posix -print-file-name=libstdc++-6.dll)")
 qt=$("$hier/bouw_qt.sh")
 qt_versie=$(sed -nE 's/^Version: //p' "$qt"/bron/*.dsc | head -n 1)
-versie=$(sed -nE 's/^project\(Lauwerkrans VERSION ([0-9.]+) .*/\1/p' CMakeLists.txt)
+versie=$(versie_van_programma)
 bouw
 trap eind_wine EXIT
 begin_wine "$uit/wine" "$qt/bin" "$gcc_dlls" "$thread_dlls"
@@ -110,11 +113,13 @@ export WINEQT_PLUGIN_PATH
 WINEQT_PLUGIN_PATH=$(windows_pad "$qt/plugins")
 test_alles
 leg_neer
-"$hier/controleer_pakket.sh" "$pakket" Lauwerkrans.exe
+"$hier/controleer_pakket.sh" "$pakket" Lauwerkrans.exe "$versie"
 leg_demo_neer
-rm -rf -- "$pakketten"
+zonder_bouwpaden "$uit/pakket/Lauwerkrans-demo"
 mkdir -p "$pakketten"
+rm -f -- "$pakketten"/Lauwerkrans-*-{windows,windows-demo}.zip "$pakketten"/Lauwerkrans-*-installeren.exe
 zip_map Lauwerkrans "Lauwerkrans-$versie-windows"
-zip_map Lauwerkrans-demo "Lauwerkrans-$versie-demo"
+zip_map Lauwerkrans-demo "Lauwerkrans-$versie-windows-demo"
 installeerder
+zonder_bouwpaden "$pakketten"
 ls -l "$pakketten"

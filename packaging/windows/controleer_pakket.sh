@@ -1,14 +1,19 @@
 #!/usr/bin/env bash
-# controleer_pakket.sh FOLDER PROGRAM: looks into all programs and DLLs below a folder, as they are
+# controleer_pakket.sh FOLDER PROGRAM VERSION: looks into all programs and DLLs below a folder, as they are
 # packed. Says everything that is wrong, and fails then:
 # - a DLL is imported that is neither there nor one of Windows, or one lies there that nothing
 #   imports (plugins lie in sub-folders and are loaded by name);
 # - a file lacks a mark of hardening: any address, also above 4 GB, and no running of data;
-# - the program opens a console, or lacks its picture, version or manifest.
+# - the program opens a console, or lacks its picture, this version or its manifest;
+# - a file names a folder of the building machine.
 set -euo pipefail
-
-map=$1
+map=$(realpath "$1")
 programma=$2
+versie=$3
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+# shellcheck source=packaging/bouwpaden.sh
+source packaging/bouwpaden.sh
+
 fouten=0
 
 meld() {
@@ -63,6 +68,9 @@ controleer_programma() {
   for deel in RT_GROUP_ICON VERSIONINFO RT_MANIFEST; do
     grep -qw "$deel" <<<"$gegevens" || meld "$programma heeft geen $deel"
   done
+  for deel in FileVersion ProductVersion; do
+    grep -qF "VALUE \"$deel\", \"$versie\"" <<<"$gegevens" || meld "$programma is niet $versie: $deel"
+  done
 }
 
 mapfile -d '' bestanden < <(find "$map" \( -iname '*.exe' -o -iname '*.dll' \) -print0)
@@ -72,6 +80,7 @@ else
   controleer_invoer
   controleer_hardheid
   controleer_programma
+  zonder_bouwpaden "$map" || meld "Dat hoort niet in een pakket."
 fi
 ((fouten == 0)) || exit 1
 echo "Het pakket is compleet; niets is overbodig."

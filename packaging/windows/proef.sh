@@ -14,6 +14,7 @@ source packaging/windows/wine.sh
 
 linux=${1:+$(realpath "$1")}
 uit=$PWD/build/windows
+pakketten=$PWD/build/pakketten
 beelden=$uit/beelden
 suite=$uit/proef/Lauwerkrans-demo
 map=$suite/Lauwerkrans
@@ -72,8 +73,8 @@ ruim_op() {
 }
 
 installeer windows windows_proef scherm
-installateur=$(find "$uit/pakketten" -name '*-installeren.exe')
-demo=$(find "$uit/pakketten" -name '*-demo.zip')
+installateur=$(find "$pakketten" -name '*-installeren.exe')
+demo=$(find "$pakketten" -name '*-windows-demo.zip')
 rm -rf -- "$uit/proef" "$uit/wine_proef" "$beelden"
 mkdir -p "$uit/proef" "$beelden"
 unzip -q "$demo" -d "$uit/proef"
