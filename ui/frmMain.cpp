@@ -47,6 +47,9 @@ frmMain::frmMain(Algemeen& algemeen, Instellingen& instellingen, Koppeling koppe
     zetTabvolgorde();
 }
 
+/// The box loses the focus once more when it is taken down.
+frmMain::~frmMain() { Vind<QLineEdit>(*this, "txtKop1")->disconnect(this); }
+
 void frmMain::verbindKnoppen() {
     const auto klik = [this](const char* naam, auto werk) {
         connect(Vind<QPushButton>(*this, naam), &QPushButton::clicked, this,
