@@ -10,6 +10,7 @@
 
 #include "output/bladindeling_lijnen.h"
 #include "output/modMaakCSV.h"
+#include "ui/focusrand.h"
 
 namespace lauwerkrans {
 
@@ -34,6 +35,8 @@ frmPrinten::frmPrinten(Printomgeving omgeving)
     Bladscroll->setPageStep(1);
     Bladscroll->installEventFilter(this);
     connect(Bladscroll, &QScrollBar::valueChanged, this, &frmPrinten::toonBlad);
+    new FocusRand(*Bladscroll, *Bladscroll);
+    connect(&beeld(), &Voorbeeld::voorbij, this, &frmPrinten::slaOm);
     auto* txtBlad = Vind<QLineEdit>(*this, "txtBlad");
     txtBlad->setValidator(
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,9}")), txtBlad));
@@ -78,6 +81,14 @@ std::size_t frmPrinten::bladnummer() const {
 void frmPrinten::toonBlad() {
     Vind<QLineEdit>(*this, "txtBlad")->setText(QString::number(bladnummer()));
     beeld().toon(bladen_, bladnummer());
+}
+
+/// To the next page, or to the end of the one before.
+void frmPrinten::slaOm(int richting) {
+    auto* Bladscroll = Vind<QScrollBar>(*this, "Bladscroll");
+    const int oud = Bladscroll->value();
+    Bladscroll->setValue(oud + richting);
+    if (Bladscroll->value() < oud) beeld().toonEinde();
 }
 
 void frmPrinten::neemBladOver() {

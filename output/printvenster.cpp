@@ -8,6 +8,7 @@
 #include "output/modMaakHtml.h"
 #include "ui/berichten.h"
 #include "ui/maten.h"
+#include "ui/sneltoets.h"
 
 namespace lauwerkrans {
 
@@ -54,6 +55,8 @@ Printvenster::Printvenster(const char* naam, std::span<const Ontwerp> ontwerp,
     verbind("cmdMaakHtml", [this] { MaakHtml(uitvoer_); });
     verbind("cmdPrinten", [this] { cmdPrinten_Click(); });
     verbind("cmdEinde", [this] { close(); });
+    MaakSneltoets(*Vind<QPushButton>(*this, "cmdPrinten"), QKeySequence::Print);
+    Vind<QWidget>(*this, "P1")->setFocus();
 }
 
 void Printvenster::verbind(const char* knop, std::function<void()> werk) {

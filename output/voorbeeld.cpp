@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "output/afdruk.h"
+#include "ui/focusrand.h"
 #include "ui/maten.h"
 #include "ui/ontwerp.h"
 #include "ui/stijl.h"
@@ -60,7 +61,7 @@ void BladVlak::paintEvent(QPaintEvent* gebeurtenis) {
     schilder.fillRect(deel, kleuren::wit);
     const Uitsnede gezien{deel.top() / schaal_, (deel.bottom() + 1) / schaal_};
     TekenBlad(schilder, bladen_->blad(nummer_, MeetBladtekst, gezien), schaal_);
-    TrekRand(schilder, rect(), hasFocus() ? palette().color(QPalette::Highlight) : kleuren::rand);
+    TrekRand(schilder, rect(), kleuren::rand);
 }
 
 void BladVlak::mousePressEvent(QMouseEvent* gebeurtenis) {
@@ -68,15 +69,16 @@ void BladVlak::mousePressEvent(QMouseEvent* gebeurtenis) {
 }
 
 void BladVlak::keyPressEvent(QKeyEvent* gebeurtenis) {
-    if (gebeurtenis->key() == Qt::Key_Space || gebeurtenis->key() == Qt::Key_Return) {
+    switch (gebeurtenis->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
         emit geklikt();
-    } else {
+        break;
+    default:
         QWidget::keyPressEvent(gebeurtenis);
     }
 }
-
-void BladVlak::focusInEvent(QFocusEvent* /*gebeurtenis*/) { update(); }
-void BladVlak::focusOutEvent(QFocusEvent* /*gebeurtenis*/) { update(); }
 
 Voorbeeld::Voorbeeld(QWidget& venster)
     : QObject(&venster), picP0_(Vind<QWidget>(venster, "picP0")), P9_(new QWidget(picP0_)),
@@ -92,6 +94,7 @@ Voorbeeld::Voorbeeld(QWidget& venster)
     connect(HScroll1_, &QScrollBar::valueChanged, this, &Voorbeeld::schuif);
     for (QObject* bron : {static_cast<QObject*>(picP0_), static_cast<QObject*>(P1_)})
         bron->installEventFilter(this);
+    new FocusRand(*picP0_, *P1_); // the page may be larger than its box
 }
 
 void Voorbeeld::toon(std::shared_ptr<const Bladen> bladen, std::size_t nummer) {
@@ -147,6 +150,19 @@ void Voorbeeld::vergroot() {
     pasAan();
 }
 
+/// A page key scrolls by the height of the box, and at the end of the page goes on.
+bool Voorbeeld::blader(int richting) {
+    if (VScroll1_->value() == (richting < 0 ? 0 : VScroll1_->maximum())) {
+        emit voorbij(richting);
+    } else {
+        VScroll1_->triggerAction(richting < 0 ? QAbstractSlider::SliderPageStepSub
+                                              : QAbstractSlider::SliderPageStepAdd);
+    }
+    return true;
+}
+
+void Voorbeeld::toonEinde() { VScroll1_->setValue(VScroll1_->maximum()); }
+
 bool Voorbeeld::toets(int toets) {
     const auto stap = [](QScrollBar* schuif, QAbstractSlider::SliderAction actie) {
         schuif->triggerAction(actie);
@@ -162,9 +178,9 @@ bool Voorbeeld::toets(int toets) {
     case Qt::Key_Right:
         return stap(HScroll1_, QAbstractSlider::SliderSingleStepAdd);
     case Qt::Key_PageUp:
-        return stap(VScroll1_, QAbstractSlider::SliderPageStepSub);
+        return blader(-1);
     case Qt::Key_PageDown:
-        return stap(VScroll1_, QAbstractSlider::SliderPageStepAdd);
+        return blader(1);
     case Qt::Key_Home:
         return stap(VScroll1_, QAbstractSlider::SliderToMinimum);
     case Qt::Key_End:

@@ -32,8 +32,6 @@ protected:
     void paintEvent(QPaintEvent* gebeurtenis) override;
     void mousePressEvent(QMouseEvent* gebeurtenis) override;
     void keyPressEvent(QKeyEvent* gebeurtenis) override;
-    void focusInEvent(QFocusEvent* gebeurtenis) override;
-    void focusOutEvent(QFocusEvent* gebeurtenis) override;
 
 private:
     std::shared_ptr<const Bladen> bladen_;
@@ -57,9 +55,16 @@ public:
     /// Fits the page to its box again.
     void pasAan();
 
+    /// Scrolls to the end of the page.
+    void toonEinde();
+
     [[nodiscard]] Vergroting vergroting() const { return vergroting_; }
     /// Pixels per millimetre.
     [[nodiscard]] double schaal() const { return P1_->schaal(); }
+
+signals:
+    /// A page key was pressed at the end of the page (1) or at its top (-1).
+    void voorbij(int richting);
 
 protected:
     bool eventFilter(QObject* object, QEvent* gebeurtenis) override;
@@ -68,6 +73,7 @@ private:
     void vergroot();
     void schuif();
     [[nodiscard]] bool toets(int toets);
+    bool blader(int richting);
     [[nodiscard]] double gewensteSchaal() const;
 
     QWidget* picP0_;

@@ -17,6 +17,7 @@
 #include "ui/berichten.h"
 #include "ui/frmMain_ontwerp.h"
 #include "ui/maten.h"
+#include "ui/sneltoets.h"
 
 namespace lauwerkrans {
 
@@ -44,6 +45,7 @@ frmMain::frmMain(Algemeen& algemeen, Instellingen& instellingen, Koppeling koppe
     raster_->ToonP20_leeg();
     setMinimumSize(kleinste);
     verbindKnoppen();
+    maakSneltoetsen();
     zetTabvolgorde();
 }
 
@@ -70,6 +72,12 @@ void frmMain::verbindKnoppen() {
     connect(rijen_, &Criteriarijen::bereken, this, &frmMain::cmd1_Click);
     connect(rijen_, &Criteriarijen::controleer, this, &frmMain::cmd2_Click);
     connect(rijen_, &Criteriarijen::verlaten, this, &frmMain::txt1_LostFocus);
+}
+
+void frmMain::maakSneltoetsen() {
+    MaakSneltoets(*Vind<QPushButton>(*this, "cmd1_0"), Qt::Key_F5);
+    MaakSneltoets(*Vind<QPushButton>(*this, "cmdPrinten"), QKeySequence::Print);
+    MaakSneltoets(*Vind<QPushButton>(*this, "cmdToelichting"), Qt::Key_F1, Qt::ApplicationShortcut);
 }
 
 void frmMain::zetTabvolgorde() {

@@ -123,6 +123,7 @@ protected:
 
 private:
     void verbindKnoppen();
+    void maakSneltoetsen();
     void zetTabvolgorde();
     void deelIn(); // the layout rules
     void bereken(const std::string& lijnen);
