@@ -11,6 +11,7 @@
 #include "output/bladindeling_lijnen.h"
 #include "output/modMaakCSV.h"
 #include "ui/focusrand.h"
+#include "ui/toegang_namen.h"
 
 namespace lauwerkrans {
 
@@ -29,6 +30,9 @@ const std::array tabel = std::to_array<Ontwerp>({
 
 frmPrinten::frmPrinten(Printomgeving omgeving)
     : Printvenster("frmPrinten", tabel, std::move(omgeving)) {
+    GeefNamen(
+        *this,
+        {{"Bladscroll", "Bladeren"}, {"txtBlad", "Pagina"}, {"txtAantPages", "Aantal pagina's"}});
     auto* Bladscroll = Vind<QScrollBar>(*this, "Bladscroll");
     Bladscroll->setFocusPolicy(Qt::StrongFocus);
     Bladscroll->setRange(1, 1);

@@ -9,6 +9,7 @@
 #include "ui/berichten.h"
 #include "ui/maten.h"
 #include "ui/sneltoets.h"
+#include "ui/toegang_namen.h"
 
 namespace lauwerkrans {
 
@@ -49,6 +50,7 @@ Printvenster::Printvenster(const char* naam, std::span<const Ontwerp> ontwerp,
     MaakElementen(*this, ontwerp);
     MaakElementen(*this, gedeeld);
     voorbeeld_ = new Voorbeeld(*this);
+    GeefNamen(*this, {{"VScroll1", "Blad op en neer"}, {"HScroll1", "Blad opzij"}});
     setMinimumSize(Binnen(kleinsteBreedte, kleinsteHoogte));
     resize(Binnen(beginBreedte, beginHoogte));
     verbind("cmdMaakCSV", [this] { maakCSV(); });

@@ -10,6 +10,8 @@
 #include <utility>
 
 #include "output/afdruk.h"
+#include "output/bladindeling_tekst.h"
+#include "output/toegang_blad.h"
 #include "ui/focusrand.h"
 #include "ui/maten.h"
 #include "ui/ontwerp.h"
@@ -40,13 +42,26 @@ BladVlak::BladVlak(QWidget* picP0) : QWidget(picP0) {
     setObjectName(QStringLiteral("P1"));
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
+    InstalleerBladToegang();
     setToolTip(QStringLiteral("Klik om het blad groter of kleiner te zien"));
 }
 
 void BladVlak::toon(std::shared_ptr<const Bladen> bladen, std::size_t nummer) {
+    const std::optional<QString> gelezen = std::exchange(tekst_, std::nullopt);
     bladen_ = std::move(bladen);
     nummer_ = nummer;
     update();
+    setAccessibleName(
+        QStringLiteral("Afdrukvoorbeeld, pagina %1 van %2").arg(nummer_).arg(bladen_->aantal()));
+    if (gelezen) MeldAnderBlad(*this, *gelezen); // else nobody reads the pages
+}
+
+const QString& BladVlak::tekst() const {
+    if (!tekst_) {
+        const Blad blad = bladen_ ? bladen_->blad(nummer_, MeetBladtekst) : Blad();
+        tekst_ = QString::fromStdString(BladAlsTekst(blad));
+    }
+    return *tekst_;
 }
 
 void BladVlak::zetSchaal(double schaal) {

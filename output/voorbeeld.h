@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 #include "output/bladindeling.h"
 
@@ -24,6 +25,8 @@ public:
     /// Gives the page its size: so many pixels to a millimetre.
     void zetSchaal(double schaal);
     [[nodiscard]] double schaal() const { return schaal_; }
+    /// The texts of the page, a line each; made when first asked for.
+    [[nodiscard]] const QString& tekst() const;
 
 signals:
     void geklikt();
@@ -37,6 +40,7 @@ private:
     std::shared_ptr<const Bladen> bladen_;
     std::size_t nummer_ = 1;
     double schaal_ = 1;
+    mutable std::optional<QString> tekst_;
 };
 
 /// Lays the page out in its box and scrolls it. The controls picP0, VScroll1 and HScroll1 are the

@@ -18,6 +18,7 @@
 #include "ui/frmMain_ontwerp.h"
 #include "ui/maten.h"
 #include "ui/sneltoets.h"
+#include "ui/toegang_namen.h"
 
 namespace lauwerkrans {
 
@@ -44,6 +45,13 @@ frmMain::frmMain(Algemeen& algemeen, Instellingen& instellingen, Koppeling koppe
     raster_->InitP20();
     raster_->ToonP20_leeg();
     setMinimumSize(kleinste);
+    GeefNamen(*this, {{"P11", "Ronden van de competitie"},
+                      {"VScroll10", "Ronden op en neer"},
+                      {"VScroll1", "Criteria op en neer"},
+                      {"txtPersoon", "Achternaam (of deels)"},
+                      {"txtKop1", "Koptekst"},
+                      {"VScroll20", "Resultaat op en neer"},
+                      {"HScroll20", "Resultaat opzij"}});
     verbindKnoppen();
     maakSneltoetsen();
     zetTabvolgorde();

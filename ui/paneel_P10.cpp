@@ -97,6 +97,8 @@ void PaneelP10::Toon_in_P10(const RondeInfo& rondeInfo) {
         return Celbeeld{tekst == "0" ? QString() : QString::fromStdString(tekst), false,
                         kleuren::zwart};
     };
+    beeld.kop = [](std::size_t kolom) { return QString::fromLatin1(kolommen.at(kolom - 1).kop); };
+    beeld.kopknop = [this](std::size_t kolom) { return cmd10_.at(kolom - 1); };
     beeld.plaatje = Krans(plaatjeMaat * 2); // sharp up to twice the size
     beeld.plaatje.setDevicePixelRatio(2);
     beeld.plaatjeKolom = plaatjeKolom;

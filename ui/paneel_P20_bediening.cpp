@@ -25,7 +25,7 @@ void PaneelP20::markeerRij(double rij) {
         streep->y2 = streep->y1;
         streep->zichtbaar = true;
     }
-    P21->update();
+    P21->markeringGewijzigd();
 }
 
 void PaneelP20::LijnBr_Aanpassen() {
@@ -38,7 +38,7 @@ void PaneelP20::LijnBr_Aanpassen() {
 void PaneelP20::verbergMarkering() {
     Line20->zichtbaar = false;
     Line21->zichtbaar = false;
-    P21->update();
+    P21->markeringGewijzigd();
 }
 
 /// Moves the mark by rows and scrolls to it. When nothing is marked, the uppermost row that is
