@@ -6,6 +6,8 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 # shellcheck source=tools/pakketten.sh
 source tools/pakketten.sh
+# shellcheck source=tools/scherm.sh
+source tools/scherm.sh
 
 release=$PWD/build/release
 demo=$PWD/build/demo
@@ -47,37 +49,9 @@ leg_demo_neer() {
 
 # shellcheck disable=SC2317 # called by the trap
 ruim_op() {
-  local pid
-  for pid in "${tour_pid:-}" "${openbox_pid:-}" "${xvfb_pid:-}"; do
-    [[ -z $pid ]] || kill "$pid" 2>/dev/null || true
-    [[ -z $pid ]] || wait "$pid" 2>/dev/null || true
-  done
+  stop "${tour_pid:-}"
+  stop_scherm
   [[ -z ${werk:-} ]] || rm -rf -- "$werk"
-}
-
-# Starts an X server on a free display, and a window manager on it that is ready when this returns.
-start_scherm() {
-  local nummer=''
-  mkfifo "$werk/nummer"
-  Xvfb -displayfd 3 -screen 0 1600x1200x24 -dpi 96 3>"$werk/nummer" 2>"$werk/xvfb.log" &
-  xvfb_pid=$!
-  if ! read -r -t 60 nummer <"$werk/nummer"; then
-    echo "Xvfb start niet:" >&2
-    cat "$werk/xvfb.log" >&2
-    return 1
-  fi
-  export DISPLAY=:$nummer
-  openbox --sm-disable --startup "touch '$werk/klaar'" &>"$werk/openbox.log" &
-  openbox_pid=$!
-  local keer
-  for ((keer = 0; keer < 300; ++keer)); do
-    [[ ! -e $werk/klaar ]] || return 0
-    kill -0 "$openbox_pid" 2>/dev/null || break
-    sleep 0.1
-  done
-  echo "openbox start niet:" >&2
-  cat "$werk/openbox.log" >&2
-  return 1
 }
 
 leid_rond() {
@@ -85,7 +59,7 @@ leid_rond() {
   trap ruim_op EXIT
   trap 'exit 130' INT
   trap 'exit 143' TERM HUP
-  start_scherm
+  start_scherm "$werk"
   rm -rf -- "$demo/beelden"
   mkdir -p "$demo/beelden"
   XDG_RUNTIME_DIR=$werk QT_QPA_PLATFORM=xcb \

@@ -10,6 +10,8 @@
 
 #include "output/bladindeling_lijnen.h"
 #include "output/modMaakCSV.h"
+#include "ui/focusrand.h"
+#include "ui/toegang_namen.h"
 
 namespace lauwerkrans {
 
@@ -28,12 +30,17 @@ const std::array tabel = std::to_array<Ontwerp>({
 
 frmPrinten::frmPrinten(Printomgeving omgeving)
     : Printvenster("frmPrinten", tabel, std::move(omgeving)) {
+    GeefNamen(
+        *this,
+        {{"Bladscroll", "Bladeren"}, {"txtBlad", "Pagina"}, {"txtAantPages", "Aantal pagina's"}});
     auto* Bladscroll = Vind<QScrollBar>(*this, "Bladscroll");
     Bladscroll->setFocusPolicy(Qt::StrongFocus);
     Bladscroll->setRange(1, 1);
     Bladscroll->setPageStep(1);
     Bladscroll->installEventFilter(this);
     connect(Bladscroll, &QScrollBar::valueChanged, this, &frmPrinten::toonBlad);
+    new FocusRand(*Bladscroll, *Bladscroll);
+    connect(&beeld(), &Voorbeeld::voorbij, this, &frmPrinten::slaOm);
     auto* txtBlad = Vind<QLineEdit>(*this, "txtBlad");
     txtBlad->setValidator(
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,9}")), txtBlad));
@@ -78,6 +85,14 @@ std::size_t frmPrinten::bladnummer() const {
 void frmPrinten::toonBlad() {
     Vind<QLineEdit>(*this, "txtBlad")->setText(QString::number(bladnummer()));
     beeld().toon(bladen_, bladnummer());
+}
+
+/// To the next page, or to the end of the one before.
+void frmPrinten::slaOm(int richting) {
+    auto* Bladscroll = Vind<QScrollBar>(*this, "Bladscroll");
+    const int oud = Bladscroll->value();
+    Bladscroll->setValue(oud + richting);
+    if (Bladscroll->value() < oud) beeld().toonEinde();
 }
 
 void frmPrinten::neemBladOver() {

@@ -31,6 +31,7 @@ protected:
 
 private:
     void toonBlad();
+    void slaOm(int richting);
     void neemBladOver(); // the number typed in txtBlad
 
     std::shared_ptr<const Bladen> bladen_;

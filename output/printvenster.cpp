@@ -8,6 +8,8 @@
 #include "output/modMaakHtml.h"
 #include "ui/berichten.h"
 #include "ui/maten.h"
+#include "ui/sneltoets.h"
+#include "ui/toegang_namen.h"
 
 namespace lauwerkrans {
 
@@ -48,12 +50,15 @@ Printvenster::Printvenster(const char* naam, std::span<const Ontwerp> ontwerp,
     MaakElementen(*this, ontwerp);
     MaakElementen(*this, gedeeld);
     voorbeeld_ = new Voorbeeld(*this);
+    GeefNamen(*this, {{"VScroll1", "Blad op en neer"}, {"HScroll1", "Blad opzij"}});
     setMinimumSize(Binnen(kleinsteBreedte, kleinsteHoogte));
     resize(Binnen(beginBreedte, beginHoogte));
     verbind("cmdMaakCSV", [this] { maakCSV(); });
     verbind("cmdMaakHtml", [this] { MaakHtml(uitvoer_); });
     verbind("cmdPrinten", [this] { cmdPrinten_Click(); });
     verbind("cmdEinde", [this] { close(); });
+    MaakSneltoets(*Vind<QPushButton>(*this, "cmdPrinten"), QKeySequence::Print);
+    Vind<QWidget>(*this, "P1")->setFocus();
 }
 
 void Printvenster::verbind(const char* knop, std::function<void()> werk) {

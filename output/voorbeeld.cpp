@@ -10,6 +10,9 @@
 #include <utility>
 
 #include "output/afdruk.h"
+#include "output/bladindeling_tekst.h"
+#include "output/toegang_blad.h"
+#include "ui/focusrand.h"
 #include "ui/maten.h"
 #include "ui/ontwerp.h"
 #include "ui/stijl.h"
@@ -39,13 +42,26 @@ BladVlak::BladVlak(QWidget* picP0) : QWidget(picP0) {
     setObjectName(QStringLiteral("P1"));
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
+    InstalleerBladToegang();
     setToolTip(QStringLiteral("Klik om het blad groter of kleiner te zien"));
 }
 
 void BladVlak::toon(std::shared_ptr<const Bladen> bladen, std::size_t nummer) {
+    const std::optional<QString> gelezen = std::exchange(tekst_, std::nullopt);
     bladen_ = std::move(bladen);
     nummer_ = nummer;
     update();
+    setAccessibleName(
+        QStringLiteral("Afdrukvoorbeeld, pagina %1 van %2").arg(nummer_).arg(bladen_->aantal()));
+    if (gelezen) MeldAnderBlad(*this, *gelezen); // else nobody reads the pages
+}
+
+const QString& BladVlak::tekst() const {
+    if (!tekst_) {
+        const Blad blad = bladen_ ? bladen_->blad(nummer_, MeetBladtekst) : Blad();
+        tekst_ = QString::fromStdString(BladAlsTekst(blad));
+    }
+    return *tekst_;
 }
 
 void BladVlak::zetSchaal(double schaal) {
@@ -60,7 +76,7 @@ void BladVlak::paintEvent(QPaintEvent* gebeurtenis) {
     schilder.fillRect(deel, kleuren::wit);
     const Uitsnede gezien{deel.top() / schaal_, (deel.bottom() + 1) / schaal_};
     TekenBlad(schilder, bladen_->blad(nummer_, MeetBladtekst, gezien), schaal_);
-    TrekRand(schilder, rect(), hasFocus() ? palette().color(QPalette::Highlight) : kleuren::rand);
+    TrekRand(schilder, rect(), kleuren::rand);
 }
 
 void BladVlak::mousePressEvent(QMouseEvent* gebeurtenis) {
@@ -68,15 +84,16 @@ void BladVlak::mousePressEvent(QMouseEvent* gebeurtenis) {
 }
 
 void BladVlak::keyPressEvent(QKeyEvent* gebeurtenis) {
-    if (gebeurtenis->key() == Qt::Key_Space || gebeurtenis->key() == Qt::Key_Return) {
+    switch (gebeurtenis->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
         emit geklikt();
-    } else {
+        break;
+    default:
         QWidget::keyPressEvent(gebeurtenis);
     }
 }
-
-void BladVlak::focusInEvent(QFocusEvent* /*gebeurtenis*/) { update(); }
-void BladVlak::focusOutEvent(QFocusEvent* /*gebeurtenis*/) { update(); }
 
 Voorbeeld::Voorbeeld(QWidget& venster)
     : QObject(&venster), picP0_(Vind<QWidget>(venster, "picP0")), P9_(new QWidget(picP0_)),
@@ -92,6 +109,7 @@ Voorbeeld::Voorbeeld(QWidget& venster)
     connect(HScroll1_, &QScrollBar::valueChanged, this, &Voorbeeld::schuif);
     for (QObject* bron : {static_cast<QObject*>(picP0_), static_cast<QObject*>(P1_)})
         bron->installEventFilter(this);
+    new FocusRand(*picP0_, *P1_); // the page may be larger than its box
 }
 
 void Voorbeeld::toon(std::shared_ptr<const Bladen> bladen, std::size_t nummer) {
@@ -147,6 +165,19 @@ void Voorbeeld::vergroot() {
     pasAan();
 }
 
+/// A page key scrolls by the height of the box, and at the end of the page goes on.
+bool Voorbeeld::blader(int richting) {
+    if (VScroll1_->value() == (richting < 0 ? 0 : VScroll1_->maximum())) {
+        emit voorbij(richting);
+    } else {
+        VScroll1_->triggerAction(richting < 0 ? QAbstractSlider::SliderPageStepSub
+                                              : QAbstractSlider::SliderPageStepAdd);
+    }
+    return true;
+}
+
+void Voorbeeld::toonEinde() { VScroll1_->setValue(VScroll1_->maximum()); }
+
 bool Voorbeeld::toets(int toets) {
     const auto stap = [](QScrollBar* schuif, QAbstractSlider::SliderAction actie) {
         schuif->triggerAction(actie);
@@ -162,9 +193,9 @@ bool Voorbeeld::toets(int toets) {
     case Qt::Key_Right:
         return stap(HScroll1_, QAbstractSlider::SliderSingleStepAdd);
     case Qt::Key_PageUp:
-        return stap(VScroll1_, QAbstractSlider::SliderPageStepSub);
+        return blader(-1);
     case Qt::Key_PageDown:
-        return stap(VScroll1_, QAbstractSlider::SliderPageStepAdd);
+        return blader(1);
     case Qt::Key_Home:
         return stap(VScroll1_, QAbstractSlider::SliderToMinimum);
     case Qt::Key_End:

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 #include "output/bladindeling.h"
 
@@ -24,6 +25,8 @@ public:
     /// Gives the page its size: so many pixels to a millimetre.
     void zetSchaal(double schaal);
     [[nodiscard]] double schaal() const { return schaal_; }
+    /// The texts of the page, a line each; made when first asked for.
+    [[nodiscard]] const QString& tekst() const;
 
 signals:
     void geklikt();
@@ -32,13 +35,12 @@ protected:
     void paintEvent(QPaintEvent* gebeurtenis) override;
     void mousePressEvent(QMouseEvent* gebeurtenis) override;
     void keyPressEvent(QKeyEvent* gebeurtenis) override;
-    void focusInEvent(QFocusEvent* gebeurtenis) override;
-    void focusOutEvent(QFocusEvent* gebeurtenis) override;
 
 private:
     std::shared_ptr<const Bladen> bladen_;
     std::size_t nummer_ = 1;
     double schaal_ = 1;
+    mutable std::optional<QString> tekst_;
 };
 
 /// Lays the page out in its box and scrolls it. The controls picP0, VScroll1 and HScroll1 are the
@@ -57,9 +59,16 @@ public:
     /// Fits the page to its box again.
     void pasAan();
 
+    /// Scrolls to the end of the page.
+    void toonEinde();
+
     [[nodiscard]] Vergroting vergroting() const { return vergroting_; }
     /// Pixels per millimetre.
     [[nodiscard]] double schaal() const { return P1_->schaal(); }
+
+signals:
+    /// A page key was pressed at the end of the page (1) or at its top (-1).
+    void voorbij(int richting);
 
 protected:
     bool eventFilter(QObject* object, QEvent* gebeurtenis) override;
@@ -68,6 +77,7 @@ private:
     void vergroot();
     void schuif();
     [[nodiscard]] bool toets(int toets);
+    bool blader(int richting);
     [[nodiscard]] double gewensteSchaal() const;
 
     QWidget* picP0_;

@@ -40,6 +40,16 @@ pakketten_toetsen=(
   poppler-utils   # reads the printed pages back: texts and their places
 )
 
+# What hears the program as a screen reader does (tools/toegankelijkheid.sh).
+# shellcheck disable=SC2034
+pakketten_toegankelijkheid=(
+  at-spi2-core    # the bus between programs and screen readers
+  dbus-daemon     # a session of its own for it
+  python3         # the listener is a Python program
+  python3-gi
+  gir1.2-atspi-2.0 # what it hears with
+)
+
 # The fuzzers.
 # shellcheck disable=SC2034
 pakketten_fuzz=(

@@ -1,10 +1,15 @@
 #include "ui/bijvenster.h"
 
 #include <QScreen>
+#include <QShortcut>
 
 #include "ui/maten.h"
 
 namespace lauwerkrans {
+
+Bijvenster::Bijvenster() {
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+}
 
 void Bijvenster::toonOver(const QWidget& venster) {
     if (!geplaatst_) {

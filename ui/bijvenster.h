@@ -8,6 +8,9 @@ namespace lauwerkrans {
 class Bijvenster : public QWidget {
     Q_OBJECT
 public:
+    /// Escape closes it.
+    Bijvenster();
+
     /// Shows the window and brings it to the front; the first time in the middle of the given one,
     /// within the screen.
     void toonOver(const QWidget& venster);

@@ -49,12 +49,18 @@ Criteriarijen::Criteriarijen(QWidget& venster)
 void Criteriarijen::maak(const Tabel& lijnTabel) {
     for (std::size_t i = 1; i <= lijnTabel.rijen(); ++i) {
         Rij rij = maakRij(i);
-        rij.lbl1->setText(QString(QLatin1Char(LijnLetter(i))));
+        const QString letter(QLatin1Char(LijnLetter(i)));
+        rij.lbl1->setText(letter);
+        rij.txt1->setAccessibleName(QStringLiteral("Minimum aantal zittingen lijn ") + letter);
+        rij.cmd1->setAccessibleName(QStringLiteral("Bereken lijn ") + letter);
+        rij.cmd2->setAccessibleName(QStringLiteral("Controle lijn ") + letter);
         verbind(rij, i);
         rijen_.push_back(rij);
     }
     const Rij& alle = rijen_[0];
     alle.lbl1->setText(QStringLiteral("Alle"));
+    alle.cmd1->setAccessibleName(QStringLiteral("Bereken alle lijnen"));
+    alle.cmd2->setAccessibleName(QStringLiteral("Controle alle lijnen"));
     alle.txt1->hide();
     alle.cmd1->setPalette(MetKleuren(alle.cmd1->palette(), QPalette::Button, kleuren::puurGroen,
                                      QPalette::ButtonText, kleuren::zwart));

@@ -80,6 +80,7 @@ void Kader::paintEvent(QPaintEvent* /*gebeurtenis*/) {
 
 void KopLabel::zetBijschrift(const QString& tekst) {
     bijschrift_ = tekst;
+    setAccessibleName(tekst); // the whole of it, whatever fits
     pasIn();
 }
 

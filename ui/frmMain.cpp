@@ -17,6 +17,8 @@
 #include "ui/berichten.h"
 #include "ui/frmMain_ontwerp.h"
 #include "ui/maten.h"
+#include "ui/sneltoets.h"
+#include "ui/toegang_namen.h"
 
 namespace lauwerkrans {
 
@@ -43,9 +45,20 @@ frmMain::frmMain(Algemeen& algemeen, Instellingen& instellingen, Koppeling koppe
     raster_->InitP20();
     raster_->ToonP20_leeg();
     setMinimumSize(kleinste);
+    GeefNamen(*this, {{"P11", "Ronden van de competitie"},
+                      {"VScroll10", "Ronden op en neer"},
+                      {"VScroll1", "Criteria op en neer"},
+                      {"txtPersoon", "Achternaam (of deels)"},
+                      {"txtKop1", "Koptekst"},
+                      {"VScroll20", "Resultaat op en neer"},
+                      {"HScroll20", "Resultaat opzij"}});
     verbindKnoppen();
+    maakSneltoetsen();
     zetTabvolgorde();
 }
+
+/// The box loses the focus once more when it is taken down.
+frmMain::~frmMain() { Vind<QLineEdit>(*this, "txtKop1")->disconnect(this); }
 
 void frmMain::verbindKnoppen() {
     const auto klik = [this](const char* naam, auto werk) {
@@ -67,6 +80,12 @@ void frmMain::verbindKnoppen() {
     connect(rijen_, &Criteriarijen::bereken, this, &frmMain::cmd1_Click);
     connect(rijen_, &Criteriarijen::controleer, this, &frmMain::cmd2_Click);
     connect(rijen_, &Criteriarijen::verlaten, this, &frmMain::txt1_LostFocus);
+}
+
+void frmMain::maakSneltoetsen() {
+    MaakSneltoets(*Vind<QPushButton>(*this, "cmd1_0"), Qt::Key_F5);
+    MaakSneltoets(*Vind<QPushButton>(*this, "cmdPrinten"), QKeySequence::Print);
+    MaakSneltoets(*Vind<QPushButton>(*this, "cmdToelichting"), Qt::Key_F1, Qt::ApplicationShortcut);
 }
 
 void frmMain::zetTabvolgorde() {

@@ -34,6 +34,11 @@ public:
     };
 
     frmMain(Algemeen& algemeen, Instellingen& instellingen, Koppeling koppeling);
+    frmMain(const frmMain&) = delete;
+    frmMain(frmMain&&) = delete;
+    frmMain& operator=(const frmMain&) = delete;
+    frmMain& operator=(frmMain&&) = delete;
+    ~frmMain() override;
 
     /// Builds the criteria rows of the chosen competition from its first round's data. A file that
     /// cannot be read gives its message and leaves no line but "Alle".
@@ -118,6 +123,7 @@ protected:
 
 private:
     void verbindKnoppen();
+    void maakSneltoetsen();
     void zetTabvolgorde();
     void deelIn(); // the layout rules
     void bereken(const std::string& lijnen);

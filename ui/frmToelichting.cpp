@@ -27,6 +27,7 @@ frmToelichting::frmToelichting() : Text1(new QPlainTextEdit(this)) {
     setObjectName(QStringLiteral("frmToelichting"));
     setWindowTitle(QStringLiteral("Toelichting"));
     Text1->setObjectName(QStringLiteral("Text1"));
+    Text1->setAccessibleName(windowTitle());
     Text1->setReadOnly(true);
     Text1->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     Text1->setLineWrapMode(QPlainTextEdit::WidgetWidth);

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 
+#include "ui/focusrand.h"
 #include "ui/maten.h"
 
 namespace lauwerkrans {
@@ -13,6 +14,7 @@ KleinScherm::KleinScherm(QWidget& venster) : venster_(venster) {
     QWidget* focus = venster.focusWidget();
     setWidget(&venster);
     if (focus != nullptr) focus->setFocus();
+    new FocusRand(*this, *this); // the arrow keys scroll it
     venster.installEventFilter(this);
 }
 

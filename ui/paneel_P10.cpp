@@ -43,7 +43,6 @@ PaneelP10::PaneelP10(QWidget& venster)
       VScroll10(Vind<QScrollBar>(venster, "VScroll10")) {
     connect(VScroll10, &QScrollBar::sliderMoved, this, &PaneelP10::SubVscroll10_CS);
     connect(VScroll10, &QScrollBar::valueChanged, this, &PaneelP10::SubVscroll10_CH);
-    P11->setFocusPolicy(Qt::ClickFocus);
     new Schuiver(*P11, *VScroll10, nullptr);
     P11->lower(); // below the header strip
 }
@@ -61,9 +60,16 @@ void PaneelP10::InitP10() {
     VScroll10->setSingleStep(250);
     VScroll10->setPageStep(2000);
     VScroll10->setRange(0, maten::SchuifMaximum(P11->hoogte(), vak.hoogte, 80));
-    VScroll10->setEnabled(VScroll10->maximum() > 0);
+    zetSchuifAan();
     cmd10_0->hide();
     cmd10_0->move(0, 0);
+}
+
+/// A table that scrolls can be reached with the Tab key; one that fits needs no stop there.
+void PaneelP10::zetSchuifAan() {
+    const bool schuift = VScroll10->maximum() > 0;
+    VScroll10->setEnabled(schuift);
+    P11->setFocusPolicy(schuift ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void PaneelP10::ToonP10_leeg() {
@@ -91,6 +97,8 @@ void PaneelP10::Toon_in_P10(const RondeInfo& rondeInfo) {
         return Celbeeld{tekst == "0" ? QString() : QString::fromStdString(tekst), false,
                         kleuren::zwart};
     };
+    beeld.kop = [](std::size_t kolom) { return QString::fromLatin1(kolommen.at(kolom - 1).kop); };
+    beeld.kopknop = [this](std::size_t kolom) { return cmd10_.at(kolom - 1); };
     beeld.plaatje = Krans(plaatjeMaat * 2); // sharp up to twice the size
     beeld.plaatje.setDevicePixelRatio(2);
     beeld.plaatjeKolom = plaatjeKolom;
@@ -99,7 +107,7 @@ void PaneelP10::Toon_in_P10(const RondeInfo& rondeInfo) {
                      rooster::onderMarge);
     VScroll10->setMaximum(
         maten::SchuifMaximum(P11->hoogte() + rooster::schuifMarge, zichtHoogte(), 0));
-    VScroll10->setEnabled(VScroll10->maximum() > 0);
+    zetSchuifAan();
     VScroll10->setValue(0);
     zetStrip(rooster::kopHoogte + 0.4);
     for (std::size_t i = 1; i <= kolommen.size(); ++i) {

@@ -36,6 +36,7 @@ public slots:
 private:
     [[nodiscard]] double zichtBreedte() const; // inner size of P10 in mm
     [[nodiscard]] double zichtHoogte() const;
+    void zetSchuifAan();
     void zetStrip(double hoogteMm);
 
     QFrame* P10;

@@ -88,6 +88,7 @@ void PaneelP20::ToonP20_leeg() {
     cmd20_0->hide();
     Verw_Headers();
     lijst_.reset();
+    P21->setAccessibleName(QStringLiteral("Resultaat"));
     pasAan();
     HScroll20->setValue(0);
     VScroll20->setValue(0);
@@ -104,6 +105,7 @@ void PaneelP20::toon(std::shared_ptr<const Lijst> lijst) {
     const double hoogte = rooster::rijHoogte * static_cast<double>(beeld.rijen) +
                           rooster::kopHoogte + rooster::onderMarge;
     P21->zetMaat(tabelBreedte_, hoogte);
+    P21->setAccessibleName(QString::fromStdString(lijst_->titel()));
     P21->toon(std::move(beeld));
     LijnBr_Aanpassen();
     pasAan();
@@ -129,6 +131,10 @@ Tabelbeeld PaneelP20::gevuldBeeld(const std::shared_ptr<const Lijst>& lijst) con
         return Celbeeld{QString::fromStdString(lijst->cel(rij, kolom)), vet,
                         vet ? LijnKleur(lijst->lijn(rij)) : kleuren::zwart};
     };
+    beeld.kop = [lijst](std::size_t kolom) {
+        return QString::fromStdString(lijst->koppen()[kolom - 1]);
+    };
+    beeld.kopknop = [this](std::size_t kolom) { return cmd20_.at(kolom - 1); };
     return beeld;
 }
 

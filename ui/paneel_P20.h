@@ -76,7 +76,7 @@ private:
     void maakKnoppen();
     [[nodiscard]] bool ctrlToets(int toets);
     void markeerRij(double rij);
-    void verzetMarkering(int rijen);
+    void verzetMarkering(double rijen);
 
     QFrame* P20;
     QFrame* P22;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "ui/paneel_P20.h"
 
@@ -24,7 +25,7 @@ void PaneelP20::markeerRij(double rij) {
         streep->y2 = streep->y1;
         streep->zichtbaar = true;
     }
-    P21->update();
+    P21->markeringGewijzigd();
 }
 
 void PaneelP20::LijnBr_Aanpassen() {
@@ -37,15 +38,17 @@ void PaneelP20::LijnBr_Aanpassen() {
 void PaneelP20::verbergMarkering() {
     Line20->zichtbaar = false;
     Line21->zichtbaar = false;
-    P21->update();
+    P21->markeringGewijzigd();
 }
 
-/// Moves the mark by rows, from above the first row when nothing is marked, and scrolls to it.
-void PaneelP20::verzetMarkering(int rijen) {
+/// Moves the mark by rows and scrolls to it. When nothing is marked, the uppermost row that is
+/// wholly to be seen is.
+void PaneelP20::verzetMarkering(double rijen) {
     if (!lijst_ || lijst_->rijen() == 0) return;
-    const double nu =
-        Line20->zichtbaar ? (Line20->y1 - rooster::kopHoogte) / rooster::rijHoogte : -1;
-    const double rij = std::clamp(nu + rijen, 0.0, static_cast<double>(lijst_->rijen() - 1));
+    const double nu = Line20->zichtbaar
+                          ? (Line20->y1 - rooster::kopHoogte) / rooster::rijHoogte + rijen
+                          : std::ceil(VScroll20->value() / rooster::rijHoogte);
+    const double rij = std::clamp(nu, 0.0, static_cast<double>(lijst_->rijen() - 1));
     markeerRij(rij);
     const double boven = rij * rooster::rijHoogte;
     const double onder = boven + rooster::kopHoogte + rooster::rijHoogte + rooster::onderMarge;
@@ -73,19 +76,39 @@ QString PaneelP20::alsTekst() const {
 bool PaneelP20::eventFilter(QObject* object, QEvent* gebeurtenis) {
     if (gebeurtenis->type() == QEvent::KeyPress) {
         const auto* toetsdruk = static_cast<const QKeyEvent*>(gebeurtenis);
-        const bool ctrl = toetsdruk->modifiers() == Qt::ControlModifier;
+        const bool ctrl = (toetsdruk->modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier;
         if (ctrl && ctrlToets(toetsdruk->key())) return true;
+        if (toetsdruk->key() == Qt::Key_Escape && Line20->zichtbaar) {
+            verbergMarkering();
+            return true;
+        }
     }
     return QObject::eventFilter(object, gebeurtenis);
 }
 
+/// The mark moves by as many rows as the view does without Ctrl.
 bool PaneelP20::ctrlToets(int toets) {
+    constexpr double alle = std::numeric_limits<double>::max();
+    const double blad =
+        std::max(1.0, std::floor((zichtHoogte() - rooster::kopHoogte) / rooster::rijHoogte) - 1);
     switch (toets) {
     case Qt::Key_Up:
         verzetMarkering(-1);
         return true;
     case Qt::Key_Down:
         verzetMarkering(1);
+        return true;
+    case Qt::Key_PageUp:
+        verzetMarkering(-blad);
+        return true;
+    case Qt::Key_PageDown:
+        verzetMarkering(blad);
+        return true;
+    case Qt::Key_Home:
+        verzetMarkering(-alle);
+        return true;
+    case Qt::Key_End:
+        verzetMarkering(alle);
         return true;
     case Qt::Key_C:
         if (lijst_) QGuiApplication::clipboard()->setText(alsTekst());

@@ -20,8 +20,9 @@ Schuiver::Schuiver(TabelLijf& lijf, QScrollBar& opEnNeer, QScrollBar* opzij)
 bool Schuiver::eventFilter(QObject* object, QEvent* gebeurtenis) {
     if (gebeurtenis->type() == QEvent::KeyPress && object == &lijf_) {
         const auto* toetsdruk = static_cast<const QKeyEvent*>(gebeurtenis);
-        const bool kaal = (toetsdruk->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-        if (kaal && toets(toetsdruk->key())) return true;
+        const auto erbij = toetsdruk->modifiers() & ~Qt::KeypadModifier;
+        if (erbij == Qt::NoModifier && toets(toetsdruk->key())) return true;
+        if (erbij == Qt::ShiftModifier && toetsOpzij(toetsdruk->key())) return true;
     }
     if (gebeurtenis->type() == QEvent::Wheel) {
         const auto* draai = static_cast<const QWheelEvent*>(gebeurtenis);
@@ -60,6 +61,26 @@ bool Schuiver::toets(int toets) {
     case Qt::Key_Right:
         if (opzij_ == nullptr) return false;
         verschuifOpzij(toets == Qt::Key_Left ? -opzij_->singleStep() : opzij_->singleStep());
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool Schuiver::toetsOpzij(int toets) {
+    if (opzij_ == nullptr) return false;
+    switch (toets) {
+    case Qt::Key_PageUp:
+        verschuifOpzij(-opzij_->pageStep());
+        return true;
+    case Qt::Key_PageDown:
+        verschuifOpzij(opzij_->pageStep());
+        return true;
+    case Qt::Key_Home:
+        opzij_->setValue(0);
+        return true;
+    case Qt::Key_End:
+        opzij_->setValue(opzij_->maximum());
         return true;
     default:
         return false;

@@ -12,7 +12,7 @@ namespace lauwerkrans {
 
 /// Listens to a body and its scroll bars. Wheel: three rows a notch, sideways with Shift. Keys in
 /// the body: arrows a row or a small step sideways, Page Up and Page Down the visible rows less
-/// one, Home and End.
+/// one, Home and End; with Shift the Page keys, Home and End go sideways.
 class Schuiver : public QObject {
     Q_OBJECT
 public:
@@ -24,6 +24,7 @@ protected:
 
 private:
     [[nodiscard]] bool toets(int toets);
+    [[nodiscard]] bool toetsOpzij(int toets);
     void wiel(QPoint hoek);
     void verschuif(int mm);
     void verschuifOpzij(int mm);

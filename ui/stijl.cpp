@@ -42,8 +42,9 @@ QPalette LichtPalet() {
 }
 
 /// Fusion with the small check boxes that the stated widths count with, with coloured buttons in
-/// exactly their colour, where Fusion makes a paler shade of it, and with the light palette for
-/// every class of controls, whatever the desktop's theme gives it and whenever.
+/// exactly their colour, where Fusion makes a paler shade of it, with a focus on buttons that is
+/// seen, and with the light palette for every class of controls, whatever the desktop's theme gives
+/// it and whenever.
 class Stijl : public QProxyStyle {
 public:
     Stijl() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -67,15 +68,32 @@ public:
     void drawPrimitive(PrimitiveElement deel, const QStyleOption* optie, QPainter* schilder,
                        const QWidget* element) const override {
         QProxyStyle::drawPrimitive(deel, optie, schilder, element);
-        const QColor kleur = optie->palette.color(QPalette::Button);
-        if (deel != PE_PanelButtonCommand || kleur == kleuren::venster) return;
-        const bool ingedrukt = (optie->state & (State_Sunken | State_On)) != 0;
+        if (deel != PE_PanelButtonCommand) return;
         schilder->save();
         schilder->setRenderHint(QPainter::Antialiasing);
-        schilder->setPen(Qt::NoPen);
-        schilder->setBrush(ingedrukt ? kleur.darker(115) : kleur);
-        schilder->drawRoundedRect(QRectF(optie->rect).adjusted(1, 1, -1, -1), 1.5, 1.5);
+        kleurKnop(*optie, *schilder);
+        toonFocus(*optie, *schilder);
         schilder->restore();
+    }
+
+private:
+    static void kleurKnop(const QStyleOption& optie, QPainter& schilder) {
+        const QColor kleur = optie.palette.color(QPalette::Button);
+        if (kleur == kleuren::venster) return;
+        const bool ingedrukt = (optie.state & (State_Sunken | State_On)) != 0;
+        schilder.setPen(Qt::NoPen);
+        schilder.setBrush(ingedrukt ? kleur.darker(115) : kleur);
+        schilder.drawRoundedRect(QRectF(optie.rect).adjusted(1, 1, -1, -1), 1.5, 1.5);
+    }
+
+    /// Inside Fusion's own border, whose one pixel is hardly seen on a colour.
+    static void toonFocus(const QStyleOption& optie, QPainter& schilder) {
+        constexpr double dikte = 1.5;
+        constexpr State getoond = State_HasFocus | State_KeyboardFocusChange;
+        if ((optie.state & getoond) != getoond) return;
+        schilder.setPen(QPen(optie.palette.color(QPalette::Highlight), dikte));
+        schilder.setBrush(Qt::NoBrush);
+        schilder.drawRoundedRect(QRectF(optie.rect).adjusted(1.5, 1.5, -1.5, -1.5), 1.5, 1.5);
     }
 };
 } // namespace

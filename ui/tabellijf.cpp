@@ -11,6 +11,7 @@
 
 #include "ui/maten.h"
 #include "ui/stijl.h"
+#include "ui/toegang_raster.h"
 
 namespace lauwerkrans {
 
@@ -44,7 +45,9 @@ void VerwijderKopknoppen(std::vector<QPushButton*>& knoppen) {
 }
 
 TabelLijf::TabelLijf(QWidget* houder, QColor achtergrond)
-    : QWidget(houder), achtergrond_(achtergrond) {}
+    : QWidget(houder), achtergrond_(achtergrond) {
+    InstalleerRasterToegang();
+}
 
 double TabelLijf::px(double xMm) const { return MmNaarPixels(xMm + links_); }
 double TabelLijf::py(double yMm) const { return MmNaarPixels(yMm + boven_); }
@@ -68,6 +71,39 @@ void TabelLijf::zetMaat(double breedteMm, double hoogteMm) {
 void TabelLijf::toon(Tabelbeeld beeld) {
     beeld_ = std::move(beeld);
     update();
+    MeldAndereTabel(*this);
+}
+
+TabelLijf::Bereik TabelLijf::rijenInBeeld() const {
+    const auto strip = static_cast<int>(std::ceil(MmNaarPixels(rooster::kopHoogte)));
+    return rijenIn(rect().adjusted(0, strip, 0, 0));
+}
+
+TabelLijf::Bereik TabelLijf::kolommenInBeeld() const { return kolommenIn(rect()); }
+
+QRectF TabelLijf::celVak(std::size_t rij, std::size_t kolom) const {
+    const double boven = rooster::kopHoogte + rooster::rijHoogte * (static_cast<double>(rij) - 1);
+    const double links = beeld_.x.at(kolom - 1);
+    return {QPointF(px(links), py(boven)),
+            QPointF(px(beeld_.x.at(kolom)), py(boven + rooster::rijHoogte))};
+}
+
+bool TabelLijf::markeerbaar() const {
+    return findChild<Streep*>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
+}
+
+/// The line above the marked row is the first one; a band above the first row is none.
+std::size_t TabelLijf::gemarkeerdeRij() const {
+    const auto* streep = findChild<Streep*>(QString(), Qt::FindDirectChildrenOnly);
+    if (streep == nullptr || !streep->zichtbaar) return 0;
+    const double rij = std::round((streep->y1 - rooster::kopHoogte) / rooster::rijHoogte) + 1;
+    return rij >= 1 && rij <= static_cast<double>(beeld_.rijen) ? static_cast<std::size_t>(rij) : 0;
+}
+
+void TabelLijf::markeringGewijzigd() {
+    update();
+    const std::size_t rij = gemarkeerdeRij();
+    if (rij != gemeldeRij_) MeldMarkering(*this, std::exchange(gemeldeRij_, rij));
 }
 
 double TabelLijf::tekstBreedte(const QString& tekst, bool vet) const {

@@ -41,6 +41,8 @@ struct Tabelbeeld {
     std::size_t lijnen = 0; // horizontal grid lines, the first at the header height
     QColor lijnKleur;
     std::function<Celbeeld(std::size_t rij, std::size_t kolom)> cel; // both from 1
+    std::function<QString(std::size_t kolom)> kop;                   // the header of a column
+    std::function<QWidget*(std::size_t kolom)> kopknop; // its button, or nullptr: not made yet
     QPixmap plaatje;              // drawn below the rows, when there is room for it
     std::size_t plaatjeKolom = 0; // in the middle of this column, from 1
 };
@@ -77,6 +79,31 @@ public:
 
     [[nodiscard]] const Tabelbeeld& beeld() const { return beeld_; }
 
+    /// Rows or columns from..to (from 1); none when from > to.
+    struct Bereik {
+        std::size_t van = 1;
+        std::size_t tot = 0;
+
+        [[nodiscard]] std::size_t aantal() const { return tot < van ? 0 : tot + 1 - van; }
+        [[nodiscard]] bool heeft(std::size_t nummer) const {
+            return van <= nummer && nummer <= tot;
+        }
+    };
+
+    /// The rows of which something is to be seen below the header strip, and the columns.
+    [[nodiscard]] Bereik rijenInBeeld() const;
+    [[nodiscard]] Bereik kolommenInBeeld() const;
+
+    /// The place of a cell in pixels of the widget; it may lie outside.
+    [[nodiscard]] QRectF celVak(std::size_t rij, std::size_t kolom) const;
+
+    /// Whether rows can be marked here, and the row that is, or 0.
+    [[nodiscard]] bool markeerbaar() const;
+    [[nodiscard]] std::size_t gemarkeerdeRij() const;
+
+    /// The mark was set, moved or taken away: draws it and tells a screen reader.
+    void markeringGewijzigd();
+
     /// The width of a text in mm, as it is drawn.
     [[nodiscard]] double tekstBreedte(const QString& tekst, bool vet) const;
     /// The height of the text "Aa" in mm.
@@ -91,12 +118,7 @@ protected:
     void mousePressEvent(QMouseEvent* gebeurtenis) override;
 
 private:
-    /// Rows or columns from..to (from 1) of which something is exposed; none when from > to.
-    struct Bereik {
-        std::size_t van = 1;
-        std::size_t tot = 0;
-    };
-
+    /// The rows or columns of which something is exposed.
     [[nodiscard]] Bereik rijenIn(const QRect& vlak) const;
     [[nodiscard]] Bereik kolommenIn(const QRect& vlak) const;
     void tekenLijnen(QPainter& schilder, const QRect& vlak) const;
@@ -113,6 +135,7 @@ private:
     double boven_ = 0;
     double breedte_ = 0;
     double hoogte_ = 0;
+    std::size_t gemeldeRij_ = 0; // the marked row that a screen reader knows of
 };
 
 } // namespace lauwerkrans

@@ -203,5 +203,12 @@ TEST_F(InstellingenVenster, TheHeadingIsTakenOverWhenItsBoxLosesTheFocus) {
     EXPECT_EQ(proef.instellingen.KopTekst, "Kop");
 }
 
+TEST_F(InstellingenVenster, TakingTheWindowDownTakesNothingOver) {
+    proef.start();
+    proef.typ("txtKop1", "Kop");
+    proef.venster.reset();
+    EXPECT_EQ(proef.instellingen.KopTekst, "");
+}
+
 } // namespace
 } // namespace lauwerkrans::proef

@@ -154,6 +154,41 @@ TEST_F(Markering, CtrlArrowsMoveItAndScrollToIt) {
     EXPECT_EQ(proef.vind<QScrollBar>("VScroll20").value(), 0);
 }
 
+TEST_F(Markering, CtrlWithPageHomeAndEndMoveItFurther) {
+    proef.klik("cmd2_1");
+    auto& lijf = proef.vind<QWidget>("P21");
+    const auto ctrl = [&lijf](Qt::Key toets) {
+        QTest::keyClick(&lijf, toets, Qt::ControlModifier);
+    };
+    ctrl(Qt::Key_Down);
+    const double blad = std::floor((lijf.height() * 25.4 / 96 - 5) / 4) - 1; // rows
+    ctrl(Qt::Key_PageDown);
+    EXPECT_DOUBLE_EQ(lijn("Line20").y1, 5 + 4 * blad);
+    ctrl(Qt::Key_PageUp);
+    EXPECT_DOUBLE_EQ(lijn("Line20").y1, 5);
+    ctrl(Qt::Key_End);
+    EXPECT_DOUBLE_EQ(lijn("Line20").y1, 5 + 4 * 59);
+    ctrl(Qt::Key_Home);
+    EXPECT_DOUBLE_EQ(lijn("Line20").y1, 5);
+    EXPECT_EQ(proef.vind<QScrollBar>("VScroll20").value(), 0);
+}
+
+TEST_F(Markering, TheFirstMarkIsSetOnTheUppermostRowInSight) {
+    proef.klik("cmd2_1");
+    proef.vind<QScrollBar>("VScroll20").setValue(41); // row 10 is cut off
+    QTest::keyClick(&proef.vind<QWidget>("P21"), Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_DOUBLE_EQ(lijn("Line20").y1, 5 + 4 * 11);
+    EXPECT_EQ(proef.vind<QScrollBar>("VScroll20").value(), 41);
+}
+
+TEST_F(Markering, EscapeTakesItAway) {
+    proef.klik("cmd2_1");
+    druk(2, 10);
+    QTest::keyClick(&proef.vind<QWidget>("P21"), Qt::Key_Escape);
+    EXPECT_FALSE(lijn("Line20").zichtbaar);
+    EXPECT_FALSE(lijn("Line21").zichtbaar);
+}
+
 TEST_F(Markering, CtrlCCopiesTheListBetweenTabs) {
     proef.typ("txt1_1", "1");
     proef.klik("cmd1_1");

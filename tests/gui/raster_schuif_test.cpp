@@ -229,6 +229,20 @@ TEST_F(RasterSchuif, TheKeysScrollByRowPageAndEnd) {
     EXPECT_EQ(HScroll20.value(), 0);
 }
 
+TEST_F(RasterSchuif, WithShiftThePageKeysHomeAndEndGoSideways) {
+    toon(500, 60);
+    const auto shift = [this](Qt::Key toets) { QTest::keyClick(&P21, toets, Qt::ShiftModifier); };
+    shift(Qt::Key_PageDown);
+    EXPECT_EQ(HScroll20.value(), 150);
+    shift(Qt::Key_End);
+    EXPECT_EQ(HScroll20.value(), HScroll20.maximum());
+    shift(Qt::Key_PageUp);
+    EXPECT_EQ(HScroll20.value(), HScroll20.maximum() - 150);
+    shift(Qt::Key_Home);
+    EXPECT_EQ(HScroll20.value(), 0);
+    EXPECT_EQ(VScroll20.value(), 0);
+}
+
 TEST_F(RasterSchuif, KeysAndWheelLeaveAnEmptyGridInPeace) {
     druk(Qt::Key_End);
     druk(Qt::Key_Right);
