@@ -11,7 +11,8 @@ namespace lauwerkrans {
 
 namespace {
 
-constexpr std::size_t sleutelLengte = 7; // 6 letters and "="
+constexpr std::size_t sleutelLengte = 7;     // 6 letters and "="
+constexpr std::size_t langsteWaarde = 32767; // bytes; no system has a longer path
 
 struct Sleutel {
     std::string_view tekst;
@@ -68,7 +69,7 @@ void LeesMappenIni(Algemeen& algemeen, OverigeMappen& overig, std::string_view p
         const std::string begin = Hoofdletters(regel->substr(0, sleutelLengte));
         for (const Sleutel& sleutel : sleutels) {
             if (begin != sleutel.tekst) continue;
-            const std::string waarde = NaarUtf8(regel->substr(sleutelLengte));
+            const std::string waarde = NaarUtf8(regel->substr(sleutelLengte, langsteWaarde));
             std::visit(Bewaarder{algemeen, overig, waarde}, sleutel.waarde);
         }
     }

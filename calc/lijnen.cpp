@@ -33,7 +33,7 @@ std::int32_t Minimum(const Criteria& criteria, char lijn) {
 
 std::string TeHoogTekst(const std::string& criterium, const std::string& lijn) {
     if (LeidendGetal(criterium) <= meesteMinimum) return {};
-    return criterium + " aantal zittingen bij lijn " + lijn + " niet goed! Maximaal 20";
+    return InMelding(criterium) + " aantal zittingen bij lijn " + lijn + " niet goed! Maximaal 20";
 }
 
 } // namespace lauwerkrans

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <stdexcept>
 #include <string>
-#include <utility>
+#include <string_view>
 #include <vector>
 
 namespace lauwerkrans {
@@ -22,7 +22,10 @@ public:
     [[nodiscard]] std::int64_t zittingen() const { return zittingen_; }
     [[nodiscard]] std::int64_t items() const { return items_; }
 
-    void voegToe(std::string tekst) { cellen_.push_back(std::move(tekst)); }
+    void voegToe(std::string_view tekst) {
+        teksten_.append(tekst);
+        einden_.push_back(teksten_.size());
+    }
 
     [[nodiscard]] std::string cel(std::int64_t ronde, std::int64_t zitting,
                                   std::int64_t item) const {
@@ -31,14 +34,17 @@ public:
         if (!binnen) throw std::out_of_range("CompTabel");
         const auto plaats =
             static_cast<std::size_t>(((ronde - 1) * zittingen_ + zitting - 1) * items_ + item - 1);
-        return plaats < cellen_.size() ? cellen_[plaats] : std::string();
+        if (plaats >= einden_.size()) return {};
+        const std::size_t begin = plaats == 0 ? 0 : einden_[plaats - 1];
+        return teksten_.substr(begin, einden_[plaats] - begin);
     }
 
 private:
     std::int64_t ronden_ = 0;
     std::int64_t zittingen_ = 0;
     std::int64_t items_ = 0;
-    std::vector<std::string> cellen_;
+    std::string teksten_; // of all cells, one behind the other
+    std::vector<std::size_t> einden_;
 };
 
 } // namespace lauwerkrans

@@ -1,9 +1,10 @@
 #include "data/fout.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
-#include "data/getallen.h"
+#include "data/codetabel.h"
 #include "data/systeem.h"
 
 namespace lauwerkrans {
@@ -22,20 +23,18 @@ constexpr std::array<std::pair<std::errc, const char*>, 9> redenen = {{
     {std::errc::filename_too_long, "de naam is te lang"},
 }};
 
-/// What stands in a file may be of any length; a message box shows its beginning.
-std::string Begin(const std::string& tekst) {
-    constexpr std::size_t meeste = 120;
-    if (tekst.size() <= meeste) return tekst;
-    std::size_t einde = meeste;
-    while (einde > 0 && (static_cast<unsigned char>(tekst[einde]) & 0xC0U) == 0x80U)
-        --einde;
-    return tekst.substr(0, einde) + " ...";
+/// Whether a byte goes on with the character of the one before it (UTF-8).
+bool IsVervolg(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
+bool IsStuurteken(char byte) {
+    const auto waarde = static_cast<unsigned char>(byte);
+    return (waarde < ' ' && byte != '\t') || waarde == 0x7F;
 }
 
 std::string Aanhaling(const std::string& tekst) { return "'" + tekst + "'"; }
 
 std::string Plaats(const Fout& fout) {
-    std::string plaats = "Fout in het bestand " + Aanhaling(systeem::Schrijfwijze(fout.bestand));
+    std::string plaats = "Fout in het bestand " + Aanhaling(PadInMelding(fout.bestand));
     if (fout.regel > 0) plaats += ", regel " + std::to_string(fout.regel);
     return plaats + ":\r\n\r\n";
 }
@@ -45,9 +44,12 @@ std::string Velden(std::int64_t aantal) {
     return std::string("er staan ").append(std::to_string(aantal)).append(" velden");
 }
 
+/// Two names.
+std::string Wie(const Fout& fout) { return InMelding(fout.wie, 2 * meesteInMelding); }
+
 std::string PercentageTekst(const Fout& fout) {
-    return "Het percentage " + Aanhaling(Begin(fout.tekst)) + " van " + fout.wie + " in ronde " +
-           std::to_string(fout.ronde) + ", zitting " + std::to_string(fout.zitting) +
+    return "Het percentage " + Aanhaling(InMelding(fout.tekst)) + " van " + Wie(fout) +
+           " in ronde " + std::to_string(fout.ronde) + ", zitting " + std::to_string(fout.zitting) +
            " is geen getal van 0 tot en met 100.";
 }
 
@@ -60,14 +62,30 @@ std::string Reden(const std::error_code& code) {
     return code.message();
 }
 
+std::string InMelding(const std::string& tekst, std::size_t meeste) {
+    std::size_t einde = std::min(meeste, tekst.size());
+    while (einde > 0 && einde < tekst.size() && IsVervolg(tekst[einde]))
+        --einde;
+    std::string begin = tekst.substr(0, einde);
+    std::replace_if(begin.begin(), begin.end(), IsStuurteken, '?');
+    return einde < tekst.size() ? begin + " ..." : begin;
+}
+
+std::string BytesInMelding(std::string_view bytes) { return InMelding(NaarUtf8(Begin(bytes))); }
+
+std::string PadInMelding(const std::string& pad) {
+    constexpr std::size_t meeste = 1000; // a longer one is no path that anybody could look at
+    return InMelding(systeem::Schrijfwijze(pad), meeste);
+}
+
 std::string FoutTekst(const Fout& fout) {
-    const std::string tekst = Begin(fout.tekst);
+    const std::string tekst = InMelding(fout.tekst);
     switch (fout.soort) {
     case FoutSoort::BestandNietLeesbaar:
-        return "Het bestand " + Aanhaling(systeem::Schrijfwijze(fout.bestand)) +
+        return "Het bestand " + Aanhaling(PadInMelding(fout.bestand)) +
                " kan niet worden gelezen: " + fout.reden + ".";
     case FoutSoort::BestandNietSchrijfbaar:
-        return "Het bestand " + Aanhaling(systeem::Schrijfwijze(fout.bestand)) +
+        return "Het bestand " + Aanhaling(PadInMelding(fout.bestand)) +
                " kan niet worden geschreven: " + fout.reden + ".";
     case FoutSoort::BestandEindigtTeVroeg:
         return Plaats(fout) + "het bestand is niet compleet.";
@@ -83,11 +101,12 @@ std::string FoutTekst(const Fout& fout) {
         return Plaats(fout) + "er zijn meer scores dan de " + std::to_string(fout.aantal) +
                " waarvoor in deze competitie plaats is.";
     case FoutSoort::SpellenBuitenGrenzen:
-        return "Het aantal spellen " + Aanhaling(tekst) + " van " + fout.wie + " kan niet kloppen.";
+        return "Het aantal spellen " + Aanhaling(tekst) + " van " + Wie(fout) +
+               " kan niet kloppen.";
     case FoutSoort::PercentageGeenGetal:
         return PercentageTekst(fout);
     case FoutSoort::GeenSpellen:
-        return "Voor " + fout.wie +
+        return "Voor " + Wie(fout) +
                " is geen gewogen gemiddelde te berekenen, want het aantal gespeelde spellen is "
                "0.\r\n\r\nOplossing: zet 'Gewogen gemiddelde' uit of verbeter de zitting in de "
                "administratie.";

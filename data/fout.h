@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <exception>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 namespace lauwerkrans {
@@ -42,6 +43,22 @@ struct Fout : std::exception {
 
     [[nodiscard]] const char* what() const noexcept override { return "lauwerkrans::Fout"; }
 };
+
+/// A text of a file as a message box shows it: what is longer than `meeste` bytes (UTF-8) ends in
+/// " ...", and a control character is a question mark.
+constexpr std::size_t meesteInMelding = 120;
+[[nodiscard]] std::string InMelding(const std::string& tekst, std::size_t meeste = meesteInMelding);
+
+/// The same of bytes of the code page; of a long text only the beginning is looked at.
+[[nodiscard]] std::string BytesInMelding(std::string_view bytes);
+
+/// A path as the system's users write it, as a message box shows it.
+[[nodiscard]] std::string PadInMelding(const std::string& pad);
+
+/// As much of a text of a file as an error needs to carry for its message.
+[[nodiscard]] inline std::string_view Begin(std::string_view bytes) {
+    return bytes.substr(0, meesteInMelding + 1);
+}
 
 /// The Dutch text of the message box that reports `fout`.
 [[nodiscard]] std::string FoutTekst(const Fout& fout);

@@ -39,7 +39,7 @@ std::string_view NeemVeld(std::string_view& rest, Einde einde) {
 Fout FoutMetTekst(FoutSoort soort, const std::string& pad, std::string_view bytes) {
     Fout fout(soort);
     fout.bestand = pad;
-    fout.tekst = NaarUtf8(bytes);
+    fout.tekst = NaarUtf8(Begin(bytes));
     return fout;
 }
 

@@ -16,6 +16,10 @@
 
 namespace lauwerkrans {
 
+/// The most bytes of a field that are kept to be shown. No name and no percentage comes near it;
+/// one that does would keep windows and printers busy for minutes.
+constexpr std::size_t langsteVeld = 1000;
+
 /// Takes fields off a text, one by one, across its lines. The fields are bytes of the code page.
 class LijstLezer {
 public:

@@ -25,7 +25,7 @@ std::string ZonderEersteStreepje(std::string_view naam) {
 
 Fout LedenFout(FoutSoort soort, std::string_view tekst) {
     Fout fout(soort);
-    fout.tekst = tekst;
+    fout.tekst = Begin(tekst);
     return fout;
 }
 
@@ -59,7 +59,8 @@ void BewaarLid(LedenNamen& namen, std::string_view regel) {
     const auto velden = SplitsLid(regel);
     const auto nummer = HeelGetal(velden[1]);
     if (!nummer) throw LedenFout(FoutSoort::GeenHeelGetal, velden[1]);
-    if (!namen.zet(*nummer, NaarUtf8(WeergaveNaam(velden[3], velden[4], velden[5])))) {
+    const std::string naam = WeergaveNaam(velden[3], velden[4], velden[5]);
+    if (!namen.zet(*nummer, NaarUtf8(std::string_view(naam).substr(0, langsteVeld)))) {
         throw LedenFout(FoutSoort::GetalBuitenGrenzen, velden[1]);
     }
 }

@@ -126,7 +126,7 @@ void PercZitLezer::handelRegel(std::string_view regel) {
     } else if (!ZonderBlanks(regel).empty()) {
         Fout verkeerd = fout(FoutSoort::AantalVelden);
         verkeerd.aantal = static_cast<std::int64_t>(aantal);
-        verkeerd.tekst = NaarUtf8(regel);
+        verkeerd.tekst = NaarUtf8(Begin(regel));
         throw verkeerd;
     }
 }
@@ -169,7 +169,7 @@ std::int32_t PercZitLezer::spellen(std::string_view veld) const {
     using Grens = std::numeric_limits<std::int32_t>;
     if (std::abs(aantal) >= static_cast<double>(Grens::max())) {
         Fout teVeel = fout(FoutSoort::TeVeelSpellen);
-        teVeel.tekst = NaarUtf8(veld);
+        teVeel.tekst = NaarUtf8(Begin(veld));
         throw teVeel;
     }
     return static_cast<std::int32_t>(Afgerond(aantal, 0));
@@ -177,8 +177,8 @@ std::int32_t PercZitLezer::spellen(std::string_view veld) const {
 
 void PercZitLezer::meldOnbekend(std::string_view lid, std::string_view paarnummer) {
     if (++onbekenden_ > meesteMeldingen) return;
-    algemeen_.meld({NaarUtf8(lid) + " (R" + std::to_string(ronde_) + "-Z" +
-                        std::to_string(zitting_) + "-nr" + NaarUtf8(paarnummer) + ")" +
+    algemeen_.meld({BytesInMelding(lid) + " (R" + std::to_string(ronde_) + "-Z" +
+                        std::to_string(zitting_) + "-nr" + BytesInMelding(paarnummer) + ")" +
                         " komt niet voor in ORV-ledenbestand en wordt overgeslagen!" +
                         "\r\n\r\nOplossing: zie bij Speler-admin 'Koppelen zwevende spelers'.",
                     Icoon::Uitroep});

@@ -1,5 +1,6 @@
 #include "data/modORV_rondedata.h"
 
+#include "data/fout.h"
 #include "data/lijstformaat.h"
 #include "data/ronde_mappen.h"
 #include "data/tekstbestand.h"
@@ -8,6 +9,12 @@ namespace lauwerkrans {
 
 std::string RondeDataPad(const std::string& competitie) {
     return VoegPad(RondePad(competitie, 1), "RondeData.txt");
+}
+
+Melding RondeDataFout(const std::string& competitie) {
+    return {"Fout bij het inlezen van de rondegegevens.\r\n\r\n" +
+                PadInMelding(RondeDataPad(competitie)),
+            Icoon::Uitroep};
 }
 
 Tabel LeesLijnTabel(const std::string& competitie) {

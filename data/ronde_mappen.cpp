@@ -44,6 +44,11 @@ RondeMappen::RondeMappen(std::string competitie, std::size_t ronden)
     if (ronden == 0) return;
     const std::string map = WerkelijkPad(competitie_);
     const auto namen = Namen(map);
+    // It was there when its data were read: a disk that is gone must not pass for no scores. A
+    // folder has itself among its names.
+    if (namen.empty()) {
+        GooiNietLeesbaar(competitie_, std::make_error_code(std::errc::not_a_directory));
+    }
     for (std::size_t ronde = 1; ronde <= ronden; ++ronde) {
         const auto naam = ZoekNaam(namen, RondeNaam(ronde));
         if (!naam) continue;

@@ -25,7 +25,8 @@ namespace lauwerkrans {
 /// without asking the system for every name.
 class RondeMappen {
 public:
-    /// Lists the folders of rounds 1 to `ronden`. Throws Fout when one is there but not readable.
+    /// Lists the folders of rounds 1 to `ronden`. Throws Fout when one is there but not readable
+    /// and, with rounds to look for, when the competition's folder is not there.
     RondeMappen(std::string competitie, std::size_t ronden);
 
     [[nodiscard]] const std::string& competitie() const { return competitie_; }

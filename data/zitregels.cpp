@@ -8,6 +8,7 @@
 
 #include "data/codetabel.h"
 #include "data/getallen.h"
+#include "data/lijstformaat.h"
 #include "data/paarsleutel.h"
 
 namespace lauwerkrans {
@@ -72,8 +73,8 @@ void ZitRegels::voegToe(ZitRegel regel, std::string_view percentage) {
     Geschreven geschreven = LeesVorm(percentage);
     if (geschreven.vorm == vormApart) {
         geschreven.getal = static_cast<std::int32_t>(apart_.size());
-        apart_.push_back(
-            {NaarUtf8(percentage), PercentageDuizendsten(percentage).value_or(geenPercentage)});
+        apart_.push_back({NaarUtf8(percentage.substr(0, langsteVeld)),
+                          PercentageDuizendsten(percentage).value_or(geenPercentage)});
     }
     regel.percentage = geschreven.getal;
     regel.vorm = geschreven.vorm & 0x7FU;

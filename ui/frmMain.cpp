@@ -13,7 +13,6 @@
 #include "data/fout.h"
 #include "data/modORV_compbums.h"
 #include "data/modORV_rondedata.h"
-#include "data/systeem.h"
 #include "ui/berichten.h"
 #include "ui/frmMain_ontwerp.h"
 #include "ui/maten.h"
@@ -109,9 +108,7 @@ void frmMain::HaalCompLijnen_ORV() {
         algemeen_.LijnTabel = LeesLijnTabel(algemeen_.competitie);
         lijnenBekend_ = true;
     } catch (const Fout&) {
-        algemeen_.meld({"Fout bij het inlezen van de rondegegevens.\r\n\r\n" +
-                            systeem::Schrijfwijze(RondeDataPad(algemeen_.competitie)),
-                        Icoon::Uitroep});
+        algemeen_.meld(RondeDataFout(algemeen_.competitie));
     }
     rijen_->maak(algemeen_.LijnTabel);
 }

@@ -104,6 +104,7 @@ TEST(CompBums, OfRoundsBeyondTheCompetitionAreNotRead) {
 
 TEST(CompBums, AddNothingWhereTheFileIsMissing) {
     const Competitie comp({});
+    comp.map.maakMap("Comp");
     EXPECT_EQ(comp.gelezen(), Lijst{});
     comp.map.maakMap("Comp/Ronde-1/CompBums.txt");
     comp.schrijf(2, Bestand({"1,2,BUM"}));

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "data/codetabel.h"
 #include "data/systeem.h"
 
 namespace lauwerkrans {
@@ -132,6 +133,39 @@ TEST(FoutTekst, CutsNoCharacterInTwo) {
     fout.tekst = std::string(118, 'x') + "éé";
     EXPECT_EQ(FoutTekst(fout), "Het aantal spellen '" + std::string(118, 'x') +
                                    "é ...' van Jan Smit - Pruskail kan niet kloppen.");
+}
+
+TEST(FoutTekst, ShowsAQuestionMarkForAControlCharacter) {
+    Fout fout = VolleFout(FoutSoort::SpellenBuitenGrenzen);
+    fout.tekst = std::string("a\0b\x1B\r\n\x7F\tc", 9);
+    EXPECT_EQ(FoutTekst(fout),
+              "Het aantal spellen 'a?b????\tc' van Jan Smit - Pruskail kan niet kloppen.");
+}
+
+TEST(FoutTekst, ShowsTheBeginningOfLongNames) {
+    Fout fout = VolleFout(FoutSoort::GeenSpellen);
+    fout.wie = std::string(240, 'n');
+    EXPECT_TRUE(FoutTekst(fout).starts_with("Voor " + fout.wie + " is geen"));
+    fout.wie += 'n';
+    EXPECT_TRUE(FoutTekst(fout).starts_with("Voor " + std::string(240, 'n') + " ... is geen"));
+}
+
+TEST(FoutTekst, ShowsTheBeginningOfAPathThatIsNone) {
+    Fout fout = VolleFout(FoutSoort::BestandNietLeesbaar);
+    fout.bestand = std::string(1000, 'p');
+    EXPECT_EQ(FoutTekst(fout),
+              "Het bestand '" + fout.bestand + "' kan niet worden gelezen: geen toegang.");
+    fout.bestand += 'p';
+    EXPECT_EQ(FoutTekst(fout), "Het bestand '" + std::string(1000, 'p') +
+                                   " ...' kan niet worden gelezen: geen toegang.");
+}
+
+TEST(InMelding, OfBytesIsThatOfTheirText) {
+    EXPECT_EQ(BytesInMelding("Zo\xEB"), "Zoë");
+    EXPECT_EQ(BytesInMelding(std::string(120, 'x')), std::string(120, 'x'));
+    EXPECT_EQ(BytesInMelding(std::string(121, 'x')), std::string(120, 'x') + " ...");
+    EXPECT_EQ(BytesInMelding(std::string(5000, '\xEB')),
+              InMelding(NaarUtf8(std::string(60, '\xEB'))) + " ...");
 }
 
 TEST(Reden, IsDutchForUsualErrors) {

@@ -62,6 +62,11 @@ TEST(TeHoogTekst, ShowsTheTextOfTheBoxAsItStands) {
     EXPECT_EQ(TeHoogTekst(" 30x", "C"), " 30x aantal zittingen bij lijn C niet goed! Maximaal 20");
 }
 
+TEST(TeHoogTekst, ShowsTheBeginningOfALongText) {
+    EXPECT_EQ(TeHoogTekst(std::string(32767, '9'), "A"),
+              std::string(120, '9') + " ... aantal zittingen bij lijn A niet goed! Maximaal 20");
+}
+
 TEST(TeHoogTekst, IsEmptyUpToTwentyAndForWhatIsNoNumber) {
     for (const char* tekst : {"20", "1", "0", "-5", "", "x", "x99"})
         EXPECT_EQ(TeHoogTekst(tekst, "A"), "") << tekst;

@@ -120,8 +120,19 @@ TEST(RondeInfo, CountsAMissingFileBetweenTwoOthersAsNotPlayed) {
 TEST(RondeInfo, WithoutAnyFileIsZeroForEveryRound) {
     const Competitie comp({"CompData.txt"});
     EXPECT_EQ(Gespeeld(MaakRondeInfo(comp.mappen(2), 3)), (Teksten{"0", "0"}));
+}
+
+TEST(RondeMappen, OfACompetitionWhoseFolderIsGoneAreAnError) {
     const Competitie geen({});
-    EXPECT_EQ(Gespeeld(MaakRondeInfo(geen.mappen(2), 3)), (Teksten{"0", "0"}));
+    EXPECT_EQ(geen.mappen(0).ronden(), 0U) << "nothing to look for";
+    try {
+        static_cast<void>(geen.mappen(2));
+        ADD_FAILURE() << "nothing was thrown";
+    } catch (const Fout& fout) {
+        EXPECT_EQ(fout.soort, FoutSoort::BestandNietLeesbaar);
+        EXPECT_EQ(fout.bestand, geen.pad());
+        EXPECT_EQ(fout.reden, "de map bestaat niet");
+    }
 }
 
 TEST(RondeInfo, CountsNoFileUnderAnotherNumber) {

@@ -48,6 +48,16 @@ TEST(ZitRegels, ShowARowInEightColumns) {
     EXPECT_EQ(tabel.cel(2, 3), "57,125");
 }
 
+TEST(ZitRegels, ShowTheBeginningOfAnEndlessPercentageAndCountItWhole) {
+    const std::string nullen(5000, '0');
+    const ZitRegels tabel = Met({"57,125" + nullen, nullen + "57,125", nullen + "x"});
+    EXPECT_EQ(tabel.cel(1, 3), "57,125" + nullen.substr(0, 994));
+    EXPECT_EQ(tabel.cel(2, 3), nullen.substr(0, 1000));
+    EXPECT_EQ(tabel.duizendsten(tabel.regel(1)), 57125);
+    EXPECT_EQ(tabel.duizendsten(tabel.regel(2)), 57125);
+    EXPECT_EQ(tabel.duizendsten(tabel.regel(3)), ZitRegels::geenPercentage);
+}
+
 TEST(ZitRegels, AreEmptyBeyondTheFilledRows) {
     ZitRegels tabel(3, std::make_shared<const LedenNamen>());
     tabel.voegToe(Regel(), "50");

@@ -1,0 +1,110 @@
+// The real window over every broken file: its message boxes, the list and the settings that stay,
+// and a window that can be used afterwards.
+#include <QApplication>
+#include <QMessageBox>
+#include <QTest>
+
+#include "app/frmMain_start.h"
+#include "data/fout.h"
+#include "kern/storingen_proef.h"
+#include "ui/berichten.h"
+#include "ui/ontwerp.h"
+#include "vensterproef.h"
+
+namespace lauwerkrans::proef::storingen {
+namespace {
+
+/// The main window, whose messages are real boxes that are answered at once.
+class VensterSessie : public Sessie {
+public:
+    explicit VensterSessie(const Suite& suite)
+        : programmaMap_(suite.programmaMap()),
+          uitvoer_(instellingen_,
+                   {[this](const Melding& melding) { meld(melding); }, programmaMap_,
+                    printers_.omgeving(),
+                    [this](frmMain& venster) { BewaarInstellingen(venster, instellingen_); }}) {
+        algemeen_.meld = [this](const Melding& melding) { meld(melding); };
+        venster_ = std::make_unique<frmMain>(algemeen_, instellingen_,
+                                             MaakKoppeling(instellingen_, uitvoer_));
+    }
+
+    bool start() override {
+        const bool gestart = Form_Load(*venster_, algemeen_, instellingen_, programmaMap_);
+        if (gestart) venster_->show();
+        QCoreApplication::processEvents();
+        return gestart;
+    }
+
+    void bereken() override {
+        Vind<QAbstractButton>(*venster_, "cmd1_0")->click();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    }
+
+    void sluit() override { venster_->close(); }
+
+    [[nodiscard]] std::string lijst() const override {
+        const auto& lijst = venster_->raster().lijst();
+        if (!lijst) return geenLijst;
+        std::string tekst;
+        for (std::size_t rij = 1; rij <= lijst->rijen(); ++rij) {
+            for (std::size_t kolom = 2; kolom <= 6; ++kolom)
+                tekst.append(lijst->cel(rij, kolom)).append(kolom < 6 ? "|" : "\n");
+        }
+        return tekst;
+    }
+
+    [[nodiscard]] std::string instellingen() const override {
+        std::string tekst = Vind<QLineEdit>(*venster_, "txtKop1")->text().toStdString();
+        for (const char* naam : {"chkGewogen", "chkZitDetails", "chkGemAlleLijnen", "chkBuiMed"})
+            tekst += Vind<QCheckBox>(*venster_, naam)->isChecked() ? "1" : "0";
+        for (const std::string& criterium : venster_->rijen().criteria())
+            tekst += "|" + criterium;
+        return tekst;
+    }
+
+private:
+    void meld(const Melding& melding) {
+        const auto antwoord = [this] {
+            auto* vak = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(vak, nullptr);
+            const QString tekst = vak->text().replace(QLatin1String("\n"), QLatin1String("\r\n"));
+            const bool uitroep = vak->icon() == QMessageBox::Warning;
+            meldingen_.push_back({tekst.toStdString(), uitroep ? Icoon::Uitroep : Icoon::Geen});
+            EXPECT_EQ(vak->windowTitle(), QLatin1String("Lauwerkrans"));
+            QTest::mouseClick(vak->button(QMessageBox::Ok), Qt::LeftButton);
+        };
+        QMetaObject::invokeMethod(qApp, antwoord, Qt::QueuedConnection);
+        ToonMelding(venster_ && venster_->isVisible() ? venster_.get() : nullptr, melding);
+    }
+
+    std::string programmaMap_;
+    Algemeen algemeen_;
+    Instellingen instellingen_;
+    Printproef printers_;
+    Uitvoervensters uitvoer_;
+    std::unique_ptr<frmMain> venster_;
+};
+
+std::unique_ptr<Sessie> MaakVensterSessie(const Suite& suite) {
+    return std::make_unique<VensterSessie>(suite);
+}
+
+class Venster : public testing::TestWithParam<std::string> {};
+
+TEST_P(Venster, WithstandsEveryFaultOfTheFile) {
+    const Suitebestand& bestand = Bestand(GetParam());
+    Proefbank bank(MaakVensterSessie);
+    const std::string reden = Reden(std::make_error_code(onleesbaarFout));
+    for (const Storing& storing : Storingen(bestand.naam)) {
+        SCOPED_TRACE(storing.naam);
+        bank.beproef(bestand, storing, reden, [](const std::function<void()>& werk) { werk(); });
+    }
+    DrukSamenAf(bestand.naam, bank.neemWaarneming());
+}
+
+INSTANTIATE_TEST_SUITE_P(Storingen, Venster, testing::ValuesIn(Bestandsnamen()), Testnaam);
+
+} // namespace
+} // namespace lauwerkrans::proef::storingen
