@@ -1,9 +1,11 @@
 #include "calc/lijsten.h"
 
 #include <algorithm>
+#include <optional>
 #include <unordered_map>
 #include <utility>
 
+#include "calc/zittingvormen.h"
 #include "data/getallen.h"
 
 namespace lauwerkrans {
@@ -16,9 +18,7 @@ public:
     Breedste(const Meter& meet, bool vet) : meet_(meet), vet_(vet) {}
 
     void kijk(const std::string& tekst) {
-        std::string vorm = tekst;
-        std::replace_if(vorm.begin(), vorm.end(), IsCijfer, '0');
-        const auto [plaats, nieuw] = bekend_.try_emplace(std::move(vorm), 0.0);
+        const auto [plaats, nieuw] = bekend_.try_emplace(Vorm(tekst), 0.0);
         if (!nieuw) return;
         plaats->second = meet_(tekst, vet_);
         breedte_ = std::max(breedte_, plaats->second);
@@ -27,8 +27,6 @@ public:
     [[nodiscard]] double breedte() const { return breedte_; }
 
 private:
-    static bool IsCijfer(char teken) { return teken >= '0' && teken <= '9'; }
-
     const Meter& meet_;
     bool vet_;
     double breedte_ = 0;
@@ -77,6 +75,7 @@ public:
                  uitslag_->GekozenLijnen;
         koppen_ = {"Nr", "Lijn", "Rang", "Paar", "AantZit", "Gemid %"};
         if (!zitDetails) return;
+        zittingVormen_.emplace(tabel());
         for (auto& kop : ZittingKoppen(uitslag_->rondeInfo))
             koppen_.push_back(std::move(kop));
     }
@@ -97,6 +96,7 @@ public:
 
     [[nodiscard]] double breedsteCel(std::size_t kolom, const Meter& meet) const override {
         if (kolom == kolomPaar) return breedstePaar(meet);
+        if (kolom > vasteKolommen) return zittingVormen_->breedste(kolom - vasteKolommen, meet);
         Breedste breedste(meet, vet(kolom));
         for (std::size_t rij = 1; rij <= rijen(); ++rij)
             breedste.kijk(cel(rij, kolom));
@@ -114,6 +114,7 @@ private:
     }
 
     std::shared_ptr<const Uitslag> uitslag_;
+    std::optional<ZittingVormen> zittingVormen_; // with session columns
 };
 
 /// Grid column k shows column k - 1 of `ZitRegels`.
@@ -216,6 +217,12 @@ private:
 };
 
 } // namespace
+
+std::string Vorm(std::string tekst) {
+    const auto isCijfer = [](char teken) { return teken >= '0' && teken <= '9'; };
+    std::replace_if(tekst.begin(), tekst.end(), isCijfer, '0');
+    return tekst;
+}
 
 std::vector<std::string> ZittingKoppen(const RondeInfo& rondeInfo) {
     std::vector<std::string> koppen(rondeInfo.totaal());
