@@ -1,7 +1,9 @@
 #include "ui/paneel_P20.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <unordered_map>
 #include <utility>
 
 #include "ui/frmMain_ontwerp.h"
@@ -22,8 +24,11 @@ constexpr int groteStap = 150;
 /// The column positions of a list: each column as wide as its widest text, header or cell, plus a
 /// margin on both sides.
 std::vector<double> KolomPosities(const Lijst& lijst, const TabelLijf& lijf) {
-    const Meter meet = [&lijf](const std::string& tekst, bool vet) {
-        return lijf.tekstBreedte(QString::fromStdString(tekst), vet);
+    std::array<std::unordered_map<std::string, double>, 2> bekend; // by shape; plain and bold
+    const Meter meet = [&](const std::string& tekst, bool vet) {
+        const auto [plaats, nieuw] = bekend.at(vet ? 1 : 0).try_emplace(Vorm(tekst), 0.0);
+        if (nieuw) plaats->second = lijf.tekstBreedte(QString::fromStdString(tekst), vet);
+        return plaats->second;
     };
     std::vector<double> x = {rooster::zijMarge};
     for (std::size_t kolom = 1; kolom <= lijst.kolommen(); ++kolom) {
@@ -93,7 +98,10 @@ void PaneelP20::ToonP20_leeg() {
     VScroll20->setValue(0);
 }
 
-void PaneelP20::Verw_Headers() { VerwijderKopknoppen(cmd20_); }
+void PaneelP20::Verw_Headers() {
+    VerwijderKopknoppen(cmd20_);
+    metKnop_ = {};
+}
 
 void PaneelP20::toon(std::shared_ptr<const Lijst> lijst) {
     Tabelbeeld beeld = gevuldBeeld(lijst); // may fail; then the old list stays
@@ -161,17 +169,22 @@ void PaneelP20::plaatsStrip() {
     maakKnoppen();
 }
 
-/// Makes the buttons of the columns that are exposed and do not have one yet.
+/// Gives the exposed columns their buttons and takes those of the others away: thousands of
+/// controls would slow every step down.
 void PaneelP20::maakKnoppen() {
+    TabelLijf::Bereik zichtbaar = P21->zichtbareKolommen();
+    zichtbaar.tot = std::min(zichtbaar.tot, cmd20_.size());
     const auto& x = P21->beeld().x;
-    const double van = -P21->links();
-    const double tot = van + zichtBreedte();
-    for (std::size_t i = 1; i <= cmd20_.size(); ++i) {
-        if (cmd20_[i - 1] != nullptr || x[i] <= van || x[i - 1] >= tot) continue;
+    for (std::size_t i = metKnop_.van; i <= metKnop_.tot; ++i) {
+        if (!zichtbaar.heeft(i)) delete std::exchange(cmd20_[i - 1], nullptr);
+    }
+    for (std::size_t i = zichtbaar.van; i <= zichtbaar.tot; ++i) {
+        if (cmd20_[i - 1] != nullptr) continue;
         cmd20_[i - 1] =
             MaakKopknop(*P22, QStringLiteral("cmd20_%1").arg(i),
                         QString::fromStdString(lijst_->koppen()[i - 1]), x[i - 1], x[i]);
     }
+    metKnop_ = zichtbaar;
 }
 
 void PaneelP20::SubVscroll20_CS(int waarde) { P21->zetBoven(-waarde); }

@@ -88,7 +88,8 @@ private:
     QScrollBar* HScroll20;
     double tabelBreedte_ = 0;
     std::shared_ptr<const Lijst> lijst_;
-    std::vector<QPushButton*> cmd20_; // element i - 1 is button i; made when first exposed
+    std::vector<QPushButton*> cmd20_; // element i - 1 is button i; there while it is exposed
+    TabelLijf::Bereik metKnop_;       // the columns that have theirs
 };
 
 } // namespace lauwerkrans

@@ -11,6 +11,7 @@
 
 #include "ui/maten.h"
 #include "ui/stijl.h"
+#include "ui/tekstvoorraad.h"
 
 namespace lauwerkrans {
 
@@ -46,6 +47,8 @@ void VerwijderKopknoppen(std::vector<QPushButton*>& knoppen) {
 TabelLijf::TabelLijf(QWidget* houder, QColor achtergrond)
     : QWidget(houder), achtergrond_(achtergrond) {}
 
+TabelLijf::~TabelLijf() = default;
+
 double TabelLijf::px(double xMm) const { return MmNaarPixels(xMm + links_); }
 double TabelLijf::py(double yMm) const { return MmNaarPixels(yMm + boven_); }
 
@@ -75,6 +78,8 @@ double TabelLijf::tekstBreedte(const QString& tekst, bool vet) const {
     letters.setBold(vet);
     return PixelsNaarMm(QFontMetricsF(letters).horizontalAdvance(tekst));
 }
+
+TabelLijf::Bereik TabelLijf::zichtbareKolommen() const { return kolommenIn(rect()); }
 
 double TabelLijf::tekstHoogte() const { return PixelsNaarMm(QFontMetricsF(font()).height()); }
 
@@ -163,31 +168,40 @@ void TabelLijf::tekenLijnen(QPainter& schilder, const QRect& vlak) const {
     }
 }
 
-void TabelLijf::tekenCellen(QPainter& schilder, const QRect& vlak) const {
+void TabelLijf::tekenCellen(QPainter& schilder, const QRect& vlak) {
     const Bereik rijen = rijenIn(vlak);
     const Bereik kolommen = kolommenIn(vlak);
-    for (std::size_t rij = rijen.van; rij <= rijen.tot; ++rij) {
-        for (std::size_t kolom = kolommen.van; kolom <= kolommen.tot; ++kolom) {
-            tekenCel(schilder, rij, kolom);
+    const double marge = (rooster::rijHoogte - tekstHoogte()) / 2;
+    for (std::size_t kolom = kolommen.van; kolom <= kolommen.tot; ++kolom) {
+        const double midden = px((beeld_.x[kolom - 1] + beeld_.x[kolom]) / 2);
+        for (std::size_t rij = rijen.van; rij <= rijen.tot; ++rij) {
+            const Celbeeld cel = beeld_.cel(rij, kolom);
+            if (cel.tekst.isEmpty()) continue;
+            const double boven =
+                rooster::kopHoogte + marge + rooster::rijHoogte * static_cast<double>(rij - 1);
+            schilder.setPen(cel.kleur);
+            voorraad(cel.vet).teken(schilder, midden, py(boven), cel.tekst);
         }
     }
 }
 
-void TabelLijf::tekenCel(QPainter& schilder, std::size_t rij, std::size_t kolom) const {
-    const Celbeeld cel = beeld_.cel(rij, kolom);
-    if (cel.tekst.isEmpty()) return;
-    QFont letters = font();
-    letters.setBold(cel.vet);
-    const QFontMetricsF maat(letters);
-    const double links = beeld_.x[kolom - 1];
-    const double breedte = beeld_.x[kolom] - links;
-    const double x = px(links + (breedte - PixelsNaarMm(maat.horizontalAdvance(cel.tekst))) / 2);
-    const double marge = (rooster::rijHoogte - tekstHoogte()) / 2;
-    const double y =
-        py(rooster::kopHoogte + marge + rooster::rijHoogte * static_cast<double>(rij - 1));
-    schilder.setFont(letters);
-    schilder.setPen(cel.kleur);
-    schilder.drawText(QPointF(x, std::round(y + maat.ascent())), cel.tekst);
+/// The texts in the body's present font.
+Tekstvoorraad& TabelLijf::voorraad(bool vet) {
+    std::unique_ptr<Tekstvoorraad>& voorraad = vet ? vet_ : gewoon_;
+    if (!voorraad) {
+        QFont letters = font();
+        letters.setBold(vet);
+        voorraad = std::make_unique<Tekstvoorraad>(letters);
+    }
+    return *voorraad;
+}
+
+void TabelLijf::changeEvent(QEvent* gebeurtenis) {
+    if (gebeurtenis->type() == QEvent::FontChange) {
+        gewoon_.reset();
+        vet_.reset();
+    }
+    QWidget::changeEvent(gebeurtenis);
 }
 
 } // namespace lauwerkrans

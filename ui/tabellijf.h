@@ -10,11 +10,14 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "ui/elementen.h"
 
 namespace lauwerkrans {
+
+class Tekstvoorraad;
 
 /// Measures that the panels share, in millimetres.
 namespace rooster {
@@ -63,6 +66,11 @@ class TabelLijf : public QWidget {
     Q_PROPERTY(double hoogte READ hoogte)
 public:
     TabelLijf(QWidget* houder, QColor achtergrond);
+    TabelLijf(const TabelLijf&) = delete;
+    TabelLijf(TabelLijf&&) = delete;
+    TabelLijf& operator=(const TabelLijf&) = delete;
+    TabelLijf& operator=(TabelLijf&&) = delete;
+    ~TabelLijf() override;
 
     [[nodiscard]] double links() const { return links_; }
     [[nodiscard]] double boven() const { return boven_; }
@@ -77,6 +85,17 @@ public:
 
     [[nodiscard]] const Tabelbeeld& beeld() const { return beeld_; }
 
+    /// Rows or columns from..to (from 1) of which something is exposed; none when from > to.
+    struct Bereik {
+        std::size_t van = 1;
+        std::size_t tot = 0;
+
+        [[nodiscard]] bool heeft(std::size_t nummer) const {
+            return van <= nummer && nummer <= tot;
+        }
+    };
+    [[nodiscard]] Bereik zichtbareKolommen() const;
+
     /// The width of a text in mm, as it is drawn.
     [[nodiscard]] double tekstBreedte(const QString& tekst, bool vet) const;
     /// The height of the text "Aa" in mm.
@@ -89,19 +108,14 @@ signals:
 protected:
     void paintEvent(QPaintEvent* gebeurtenis) override;
     void mousePressEvent(QMouseEvent* gebeurtenis) override;
+    void changeEvent(QEvent* gebeurtenis) override;
 
 private:
-    /// Rows or columns from..to (from 1) of which something is exposed; none when from > to.
-    struct Bereik {
-        std::size_t van = 1;
-        std::size_t tot = 0;
-    };
-
     [[nodiscard]] Bereik rijenIn(const QRect& vlak) const;
     [[nodiscard]] Bereik kolommenIn(const QRect& vlak) const;
     void tekenLijnen(QPainter& schilder, const QRect& vlak) const;
-    void tekenCellen(QPainter& schilder, const QRect& vlak) const;
-    void tekenCel(QPainter& schilder, std::size_t rij, std::size_t kolom) const;
+    void tekenCellen(QPainter& schilder, const QRect& vlak);
+    [[nodiscard]] Tekstvoorraad& voorraad(bool vet);
     void tekenStrepen(QPainter& schilder) const;
     void tekenPlaatje(QPainter& schilder) const;
     [[nodiscard]] double px(double xMm) const;
@@ -113,6 +127,8 @@ private:
     double boven_ = 0;
     double breedte_ = 0;
     double hoogte_ = 0;
+    std::unique_ptr<Tekstvoorraad> gewoon_; // made when first drawn
+    std::unique_ptr<Tekstvoorraad> vet_;
 };
 
 } // namespace lauwerkrans
