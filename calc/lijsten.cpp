@@ -86,6 +86,15 @@ public:
         return kolom == 1 ? std::to_string(rij) : tabel().cel(rij, kolom - 1);
     }
 
+    [[nodiscard]] std::string uitleg(std::size_t rij, std::size_t kolom) const override {
+        if (kolom <= vasteKolommen) return {};
+        const std::size_t nummer = kolom - vasteKolommen;
+        const auto [ronde, zitting] = uitslag_->rondeInfo.zitting(nummer);
+        const ZittingCel* gespeeld = tabel().zitting(tabel().rijen.at(rij - 1), nummer);
+        return "Ronde " + std::to_string(ronde) + ", zitting " + std::to_string(zitting) + ": " +
+               (gespeeld == nullptr ? "niet gespeeld door dit paar" : gespeeld->uitleg());
+    }
+
     [[nodiscard]] bool vet(std::size_t kolom) const override {
         return kolom >= 2 && kolom <= vasteKolommen;
     }

@@ -38,6 +38,11 @@ public:
     [[nodiscard]] virtual std::size_t rijen() const = 0;
     [[nodiscard]] virtual std::string cel(std::size_t rij, std::size_t kolom) const = 0;
 
+    /// What a cell says in words, where its text is short for something; else empty.
+    [[nodiscard]] virtual std::string uitleg(std::size_t /*rij*/, std::size_t /*kolom*/) const {
+        return {};
+    }
+
     /// Whether a column is drawn in bold and in the colour of the row's line.
     [[nodiscard]] virtual bool vet(std::size_t kolom) const = 0;
     /// The letter of a row's line.

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/celuitleg.h"
 #include "ui/paneel_P20.h"
 
 namespace lauwerkrans {
@@ -75,6 +76,10 @@ bool PaneelP20::eventFilter(QObject* object, QEvent* gebeurtenis) {
         const auto* toetsdruk = static_cast<const QKeyEvent*>(gebeurtenis);
         const bool ctrl = toetsdruk->modifiers() == Qt::ControlModifier;
         if (ctrl && ctrlToets(toetsdruk->key())) return true;
+    }
+    if (gebeurtenis->type() == QEvent::ToolTip) {
+        ToonUitleg(*P21, lijst_.get(), *static_cast<const QHelpEvent*>(gebeurtenis));
+        return true;
     }
     return QObject::eventFilter(object, gebeurtenis);
 }

@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "ui/elementen.h"
@@ -80,6 +81,14 @@ public:
     void zetBoven(double mm);
     void zetMaat(double breedteMm, double hoogteMm);
 
+    /// Draws everything so many times as large, the letters too; the millimetres of this class
+    /// stay those of the size 1.
+    void zetVergroting(double factor);
+    [[nodiscard]] double vergroting() const { return vergroting_; }
+    /// Lengths on the screen (logical pixels) and in the table (mm).
+    [[nodiscard]] double mm(double pixels) const;
+    [[nodiscard]] double pixels(double mm) const;
+
     /// Replaces what is shown and draws it anew.
     void toon(Tabelbeeld beeld);
 
@@ -95,6 +104,16 @@ public:
         }
     };
     [[nodiscard]] Bereik zichtbareKolommen() const;
+
+    /// Row and column, both from 1.
+    struct Cel {
+        std::size_t rij;
+        std::size_t kolom;
+    };
+    /// The cell at a point of this control (pixels), if there is one.
+    [[nodiscard]] std::optional<Cel> celOp(QPointF punt) const;
+    /// Where a cell is drawn in this control (pixels).
+    [[nodiscard]] QRect vakVan(Cel cel) const;
 
     /// The width of a text in mm, as it is drawn.
     [[nodiscard]] double tekstBreedte(const QString& tekst, bool vet) const;
@@ -123,6 +142,8 @@ private:
 
     QColor achtergrond_;
     Tabelbeeld beeld_;
+    double vergroting_ = 1;
+    int gewonePixels_ = 0; // height of the letters at size 1
     double links_ = 0;
     double boven_ = 0;
     double breedte_ = 0;
