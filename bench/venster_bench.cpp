@@ -1,7 +1,8 @@
 // From the press of a button to the painted list, on the real window: the control list of all
-// lines, and one step of its scroll bar; and the drawing of a list's first page. Run it with
-// QT_QPA_PLATFORM=offscreen.
+// lines and the ranking with session details, with the steps of their scroll bars; and the drawing
+// of a list's first page. Run it with QT_QPA_PLATFORM=offscreen.
 #include <QApplication>
+#include <QCheckBox>
 #include <QImage>
 #include <QPainter>
 #include <QScrollBar>
@@ -27,8 +28,28 @@ void Teken(frmMain& venster) {
     benchmark::DoNotOptimize(Vind<QWidget>(venster, "P20")->grab().cacheKey());
 }
 
+const QSize kleinste(861, 480); // of the window, in logical pixels
+const QSize heelScherm(1920, 1020);
+
+constexpr int keren = 5;
+constexpr int stappen = 101;
+
+/// Milliseconds of one step of a scroll bar, to the painted grid: the median of steps from the
+/// middle on.
+double Stap(frmMain& venster, const char* naam) {
+    auto& schuif = *Vind<QScrollBar>(venster, naam);
+    schuif.setValue(schuif.maximum() / 2);
+    std::vector<double> tijden;
+    for (int i = 0; i < stappen; ++i) {
+        tijden.push_back(Duur([&] {
+            schuif.setValue(schuif.value() + schuif.singleStep());
+            Teken(venster);
+        }));
+    }
+    return Mediaan(tijden) * 1e3;
+}
+
 void Meet(benchmark::State& state, const Maat& maat) {
-    constexpr int keren = 5;
     for (auto _ : state) {
         const Competitie competitie(maat);
         Algemeen algemeen;
@@ -44,23 +65,54 @@ void Meet(benchmark::State& state, const Maat& maat) {
             });
         const double kaal = Duur([&] { benchmark::DoNotOptimize(LeesKaal(competitie)); });
         std::vector<double> tonen;
-        std::vector<double> rollen;
-        auto& schuif = *Vind<QScrollBar>(venster, "VScroll20");
         for (int i = 0; i < keren; ++i) {
             tonen.push_back(Duur([&] {
                 venster.cmd2_Click(0);
                 Teken(venster);
             }));
-            schuif.setValue(schuif.maximum() / 2);
-            rollen.push_back(Duur([&] {
-                schuif.setValue(schuif.value() + schuif.singleStep());
-                Teken(venster);
-            }));
         }
         state.counters["kaal_ms"] = kaal * 1e3;
         state.counters["controle_ms"] = Mediaan(tonen) * 1e3;
-        state.counters["stap_ms"] = Mediaan(rollen) * 1e3;
+        state.counters["stap_ms"] = Stap(venster, "VScroll20");
         state.counters["rijen"] = static_cast<double>(venster.raster().lijst()->rijen());
+        state.counters["piek_MB"] = PiekMegabytes();
+    }
+}
+
+/// The ranking of all lines with details, on a window of the given size; apart from the press of
+/// the button, showing it anew from the calculation that is there.
+void MeetDetails(benchmark::State& state, const Maat& maat, QSize grootte) {
+    for (auto _ : state) {
+        const Competitie competitie(maat);
+        Algemeen algemeen;
+        algemeen.meld = [](const Melding& melding) { throw std::runtime_error(melding.tekst); };
+        Instellingen instellingen;
+        frmMain venster(algemeen, instellingen, {});
+        if (!Form_Load(venster, algemeen, instellingen, competitie.programmaMap())) std::abort();
+        venster.resize(grootte);
+        venster.show();
+        Vind<QCheckBox>(venster, "chkZitDetails")->setChecked(true);
+        for (std::size_t lijn = 1; lijn <= venster.rijen().lijnen(); ++lijn)
+            venster.rijen().zetCriterium(lijn, "1");
+        std::vector<double> bereken;
+        std::vector<double> tonen;
+        for (int i = 0; i < keren; ++i) {
+            bereken.push_back(Duur([&] {
+                venster.cmd1_Click(0);
+                Teken(venster);
+            }));
+            tonen.push_back(Duur([&] {
+                venster.ToonLvwRes();
+                Teken(venster);
+            }));
+        }
+        state.counters["bereken_ms"] = Mediaan(bereken) * 1e3;
+        state.counters["tonen_ms"] = Mediaan(tonen) * 1e3;
+        state.counters["stap_neer_ms"] = Stap(venster, "VScroll20");
+        state.counters["stap_opzij_ms"] = Stap(venster, "HScroll20");
+        const auto& lijst = *venster.raster().lijst();
+        state.counters["rijen"] = static_cast<double>(lijst.rijen());
+        state.counters["kolommen"] = static_cast<double>(lijst.kolommen());
         state.counters["piek_MB"] = PiekMegabytes();
     }
 }
@@ -80,11 +132,10 @@ void TekenEersteBlad(const Bladen& bladen) {
 /// The first time, in which fonts are looked up, and the median of those after it.
 template <class Maak>
 void MeetBlad(benchmark::State& state, Maak maak) {
-    constexpr int keren = 21;
     const Uitvoer uitvoer = MaakLijst(1000);
     std::vector<double> tijden;
     for (auto _ : state) {
-        for (int i = 0; i <= keren; ++i)
+        for (int i = 0; i <= stappen; ++i)
             tijden.push_back(Duur([&] { TekenEersteBlad(maak(uitvoer)); }));
         state.counters["eerste_ms"] = tijden.front() * 1e3;
         tijden.erase(tijden.begin());
@@ -108,6 +159,19 @@ BENCHMARK(BladTotaal)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Meet, club, club)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Meet, groot, groot)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Meet, grootst, grootst)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MeetDetails, club, club, kleinste)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MeetDetails, grootst, grootst, kleinste)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MeetDetails, groot_heel_scherm, groot, heelScherm)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MeetDetails, grootst_heel_scherm, grootst, heelScherm)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MeetDetails, losse_paren, losseParen, kleinste)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv) {
     QApplication toepassing(argc, argv);

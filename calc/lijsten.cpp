@@ -1,9 +1,11 @@
 #include "calc/lijsten.h"
 
 #include <algorithm>
+#include <optional>
 #include <unordered_map>
 #include <utility>
 
+#include "calc/zittingvormen.h"
 #include "data/getallen.h"
 
 namespace lauwerkrans {
@@ -16,9 +18,7 @@ public:
     Breedste(const Meter& meet, bool vet) : meet_(meet), vet_(vet) {}
 
     void kijk(const std::string& tekst) {
-        std::string vorm = tekst;
-        std::replace_if(vorm.begin(), vorm.end(), IsCijfer, '0');
-        const auto [plaats, nieuw] = bekend_.try_emplace(std::move(vorm), 0.0);
+        const auto [plaats, nieuw] = bekend_.try_emplace(Vorm(tekst), 0.0);
         if (!nieuw) return;
         plaats->second = meet_(tekst, vet_);
         breedte_ = std::max(breedte_, plaats->second);
@@ -27,8 +27,6 @@ public:
     [[nodiscard]] double breedte() const { return breedte_; }
 
 private:
-    static bool IsCijfer(char teken) { return teken >= '0' && teken <= '9'; }
-
     const Meter& meet_;
     bool vet_;
     double breedte_ = 0;
@@ -77,6 +75,7 @@ public:
                  uitslag_->GekozenLijnen;
         koppen_ = {"Nr", "Lijn", "Rang", "Paar", "AantZit", "Gemid %"};
         if (!zitDetails) return;
+        zittingVormen_.emplace(tabel());
         for (auto& kop : ZittingKoppen(uitslag_->rondeInfo))
             koppen_.push_back(std::move(kop));
     }
@@ -85,6 +84,15 @@ public:
 
     [[nodiscard]] std::string cel(std::size_t rij, std::size_t kolom) const override {
         return kolom == 1 ? std::to_string(rij) : tabel().cel(rij, kolom - 1);
+    }
+
+    [[nodiscard]] std::string uitleg(std::size_t rij, std::size_t kolom) const override {
+        if (kolom <= vasteKolommen) return {};
+        const std::size_t nummer = kolom - vasteKolommen;
+        const auto [ronde, zitting] = uitslag_->rondeInfo.zitting(nummer);
+        const ZittingCel* gespeeld = tabel().zitting(tabel().rijen.at(rij - 1), nummer);
+        return "Ronde " + std::to_string(ronde) + ", zitting " + std::to_string(zitting) + ": " +
+               (gespeeld == nullptr ? "niet gespeeld door dit paar" : gespeeld->uitleg());
     }
 
     [[nodiscard]] bool vet(std::size_t kolom) const override {
@@ -97,6 +105,7 @@ public:
 
     [[nodiscard]] double breedsteCel(std::size_t kolom, const Meter& meet) const override {
         if (kolom == kolomPaar) return breedstePaar(meet);
+        if (kolom > vasteKolommen) return zittingVormen_->breedste(kolom - vasteKolommen, meet);
         Breedste breedste(meet, vet(kolom));
         for (std::size_t rij = 1; rij <= rijen(); ++rij)
             breedste.kijk(cel(rij, kolom));
@@ -114,6 +123,7 @@ private:
     }
 
     std::shared_ptr<const Uitslag> uitslag_;
+    std::optional<ZittingVormen> zittingVormen_; // with session columns
 };
 
 /// Grid column k shows column k - 1 of `ZitRegels`.
@@ -216,6 +226,12 @@ private:
 };
 
 } // namespace
+
+std::string Vorm(std::string tekst) {
+    const auto isCijfer = [](char teken) { return teken >= '0' && teken <= '9'; };
+    std::replace_if(tekst.begin(), tekst.end(), isCijfer, '0');
+    return tekst;
+}
 
 std::vector<std::string> ZittingKoppen(const RondeInfo& rondeInfo) {
     std::vector<std::string> koppen(rondeInfo.totaal());

@@ -16,6 +16,10 @@ namespace lauwerkrans {
 /// Measures a text, in any unit; `vet` for a bold one.
 using Meter = std::function<double(const std::string& tekst, bool vet)>;
 
+/// The shape of a text: every digit a 0. Texts of one shape are equally wide, since digits have one
+/// width in the fonts that are used.
+[[nodiscard]] std::string Vorm(std::string tekst);
+
 /// Rows and columns are counted from 1.
 class Lijst {
 public:
@@ -34,13 +38,17 @@ public:
     [[nodiscard]] virtual std::size_t rijen() const = 0;
     [[nodiscard]] virtual std::string cel(std::size_t rij, std::size_t kolom) const = 0;
 
+    /// What a cell says in words, where its text is short for something; else empty.
+    [[nodiscard]] virtual std::string uitleg(std::size_t /*rij*/, std::size_t /*kolom*/) const {
+        return {};
+    }
+
     /// Whether a column is drawn in bold and in the colour of the row's line.
     [[nodiscard]] virtual bool vet(std::size_t kolom) const = 0;
     /// The letter of a row's line.
     [[nodiscard]] virtual char lijn(std::size_t rij) const = 0;
 
-    /// The width of the widest cell of a column. Texts that differ only in their digits are
-    /// measured once: digits have one width in the fonts that are used.
+    /// The width of the widest cell of a column. Texts of one shape are measured once.
     [[nodiscard]] virtual double breedsteCel(std::size_t kolom, const Meter& meet) const = 0;
 
 protected:

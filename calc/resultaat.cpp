@@ -14,6 +14,12 @@ std::string ZittingCel::tekst() const {
     return PercentageTekst(duizendsten) + "_" + Patroon(spellen, 0, 2);
 }
 
+std::string ZittingCel::uitleg() const {
+    if (streep) return "geen score die meetelt";
+    const std::string aantal = std::to_string(spellen) + (spellen == 1 ? " spel" : " spellen");
+    return aantal + ", " + PercentageTekst(duizendsten) + " %";
+}
+
 const ZittingCel* ResultaatTabel::zitting(const PaarRij& rij, std::size_t kolom) const {
     const auto* const begin = cellen.data() + rij.eersteCel;
     const auto* const einde = begin + rij.aantalCellen;

@@ -25,6 +25,9 @@ struct ZittingCel {
 
     /// The text of the cell: percentage "00.000", "_", boards "00".
     [[nodiscard]] std::string tekst() const;
+
+    /// The same in words: "24 spellen, 57,125 %".
+    [[nodiscard]] std::string uitleg() const;
 };
 
 /// A pair with its sessions, a slice of ResultaatTabel::cellen in the order of their columns.

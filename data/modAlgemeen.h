@@ -11,11 +11,13 @@
 #include "data/melding.h"
 #include "data/rondeinfo.h"
 #include "data/tabel.h"
+#include "data/voortgang.h"
 
 namespace lauwerkrans {
 
 struct Algemeen {
-    Melder meld; // shows a message box
+    Melder meld;         // shows a message box
+    Voortgang voortgang; // set while somebody waits for a reading of the scores
 
     // Set by LeesMappenIni.
     std::string OrvMap;            // the suite's main folder

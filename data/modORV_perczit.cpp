@@ -192,6 +192,33 @@ void PercZitLezer::meldOverige() const {
                     Icoon::Uitroep});
 }
 
+/// Tells how many sessions have been read, when it is time to. The number of all is counted then
+/// only: by the folders, without a look into them.
+class Teller {
+public:
+    Teller(const Voortgang& voortgang, const RondeMappen& mappen, std::size_t zittingen)
+        : voortgang_(voortgang), mappen_(mappen), zittingen_(zittingen) {}
+
+    void tel() {
+        ++gelezen_;
+        if (!voortgang_.isTijd || !voortgang_.isTijd()) return;
+        if (totaal_ == 0) totaal_ = mappen_.zittingMappen(zittingen_);
+        voortgang_.toon(gelezen_, totaal_);
+    }
+
+    /// All files have been read; a folder without one was no session.
+    void klaar() const {
+        if (totaal_ != 0) voortgang_.toon(gelezen_, gelezen_);
+    }
+
+private:
+    const Voortgang& voortgang_;
+    const RondeMappen& mappen_;
+    std::size_t zittingen_;
+    std::size_t gelezen_ = 0;
+    std::size_t totaal_ = 0; // counted when first shown
+};
+
 } // namespace
 
 Lezing LeesPercZitBestanden(Algemeen& algemeen, const Selectie& selectie) {
@@ -203,14 +230,18 @@ Lezing LeesPercZitBestanden(Algemeen& algemeen, const Selectie& selectie) {
     lezing.BumLijst = LeesCompBums(mappen);
     lezing.zitRegels = ZitRegels(ronden * zittingen * parenPerZitting, algemeen.ledenNamen);
     PercZitLezer lezer(algemeen, selectie, lezing.BumLijst, lezing.zitRegels);
+    Teller teller(algemeen.voortgang, mappen, zittingen);
     systeem::Leesbuffer buffer;
     std::vector<bool> gespeeld;
     for (std::size_t ronde = 1; ronde <= ronden; ++ronde) {
         for (std::size_t zitting = 1; zitting <= zittingen; ++zitting) {
             gespeeld.push_back(mappen.leesPercZit(ronde, zitting, buffer));
-            if (gespeeld.back()) lezer.leesZitting(ronde, zitting, buffer.bytes());
+            if (!gespeeld.back()) continue;
+            lezer.leesZitting(ronde, zitting, buffer.bytes());
+            teller.tel();
         }
     }
+    teller.klaar();
     lezer.meldOverige();
     lezing.rondeInfo = RondeInfo(ronden, zittingen, gespeeld);
     return lezing;

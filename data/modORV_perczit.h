@@ -31,8 +31,9 @@ struct Lezing {
 
 /// Reads the scores of all played sessions of the chosen competition. A member number that is
 /// none gives its message and drops the line; from the hundred-and-first on, one closing message
-/// says how many more there were. Clears LeesFout and changes nothing else. Throws Fout: a file
-/// that cannot be read, a line without 7 fields, more rows than there is room for.
+/// says how many more there were. Tells its progress to `voortgang`. Clears LeesFout and changes
+/// nothing else. Throws Fout: a file that cannot be read, a line without 7 fields, more rows than
+/// there is room for.
 [[nodiscard]] Lezing LeesPercZitBestanden(Algemeen& algemeen, const Selectie& selectie);
 
 } // namespace lauwerkrans

@@ -70,6 +70,16 @@ std::optional<std::string> RondeMappen::zittingMap(std::size_t ronde, std::size_
     return naam ? std::optional(VoegPad(map.pad, *naam)) : std::nullopt;
 }
 
+std::size_t RondeMappen::zittingMappen(std::size_t zittingen) const {
+    std::size_t aantal = 0;
+    for (std::size_t ronde = 1; ronde <= ronden(); ++ronde) {
+        for (std::size_t zitting = 1; zitting <= zittingen; ++zitting) {
+            if (zittingMap(ronde, zitting)) ++aantal;
+        }
+    }
+    return aantal;
+}
+
 bool RondeMappen::heeftPercZit(std::size_t ronde, std::size_t zitting) const {
     const auto map = zittingMap(ronde, zitting);
     if (!map) return false;

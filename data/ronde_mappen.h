@@ -35,6 +35,9 @@ public:
     /// The real path of a round's CompBums.txt; empty when the round has none.
     [[nodiscard]] std::optional<std::string> compBums(std::size_t ronde) const;
 
+    /// How many of the sessions 1 to `zittingen` of all rounds have a folder.
+    [[nodiscard]] std::size_t zittingMappen(std::size_t zittingen) const;
+
     /// Whether a session has a percentage file; the file is not opened.
     [[nodiscard]] bool heeftPercZit(std::size_t ronde, std::size_t zitting) const;
 

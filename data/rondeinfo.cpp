@@ -1,5 +1,6 @@
 #include "data/rondeinfo.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace lauwerkrans {
@@ -16,6 +17,13 @@ RondeInfo::RondeInfo(std::size_t ronden, std::size_t zittingen, const std::vecto
 std::size_t RondeInfo::volgnummer(std::size_t ronde, std::size_t zitting) const {
     if (ronde < 1 || zitting < 1 || zitting > zittingen_) throw std::out_of_range("RondeInfo");
     return volgnummers_.at((ronde - 1) * zittingen_ + zitting - 1);
+}
+
+std::pair<std::size_t, std::size_t> RondeInfo::zitting(std::size_t volgnummer) const {
+    const auto plaats = std::find(volgnummers_.begin(), volgnummers_.end(), volgnummer);
+    if (volgnummer == 0 || plaats == volgnummers_.end()) throw std::out_of_range("RondeInfo");
+    const auto nummer = static_cast<std::size_t>(plaats - volgnummers_.begin());
+    return {nummer / zittingen_ + 1, nummer % zittingen_ + 1};
 }
 
 std::string RondeInfo::cel(std::size_t ronde, std::size_t kolom) const {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace lauwerkrans {
@@ -28,6 +29,9 @@ public:
     /// The number of a session among the played ones: those of the earlier rounds plus its place
     /// among the played sessions of its own round, from 1; 0 when it has not been played.
     [[nodiscard]] std::size_t volgnummer(std::size_t ronde, std::size_t zitting) const;
+
+    /// Round and session of such a number. Throws std::out_of_range when no session has it.
+    [[nodiscard]] std::pair<std::size_t, std::size_t> zitting(std::size_t volgnummer) const;
 
     /// The text of a cell; columns 1 to 4.
     [[nodiscard]] std::string cel(std::size_t ronde, std::size_t kolom) const;

@@ -30,7 +30,8 @@ void Zet(const QWidget& venster, const char* naam, bool ingeschakeld) {
 } // namespace
 
 frmMain::frmMain(Algemeen& algemeen, Instellingen& instellingen, Koppeling koppeling)
-    : algemeen_(algemeen), instellingen_(instellingen), koppeling_(std::move(koppeling)) {
+    : algemeen_(algemeen), instellingen_(instellingen), koppeling_(std::move(koppeling)),
+      leeswacht_(new Leeswacht(*this, algemeen.voortgang, koppeling_.nu)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Bereken de Club- cq Lijnkampioenen van een parencompetitie."));
     const QSize kleinste = maten::Pixels({0, 0, breedteFrmMain, hoogteFrmMain}).size();
@@ -98,6 +99,7 @@ void frmMain::zetTabvolgorde() {
 }
 
 void frmMain::bewaak(const std::function<void()>& handeling) {
+    if (leeswacht_->bezig()) return; // reached without mouse or keyboard, as by a screen reader
     Bewaak(algemeen_.meld, handeling, [this](char lijn) { rijen_->kies(LijnNummer(lijn)); });
 }
 
@@ -160,7 +162,8 @@ void frmMain::cmd1_Click(std::size_t rij) {
 }
 
 void frmMain::bereken(const std::string& lijnen) {
-    auto uitslag = Bereken(algemeen_, lijnen, rijen_->criteria(), opties());
+    std::shared_ptr<const Uitslag> uitslag;
+    leeswacht_->bewaak([&] { uitslag = Bereken(algemeen_, lijnen, rijen_->criteria(), opties()); });
     Toon_in_P10();
     Resets();
     uitslag_ = std::move(uitslag);
@@ -187,7 +190,8 @@ void frmMain::cmd2_Click(std::size_t rij) {
 }
 
 void frmMain::toonControlelijst(const Selectie& selectie) {
-    const auto controle = Controleer(algemeen_, selectie);
+    std::shared_ptr<const Controle> controle;
+    leeswacht_->bewaak([&] { controle = Controleer(algemeen_, selectie); });
     Toon_in_P10();
     raster_->ToonP20_leeg(); // the last ranking stays behind the list
     ToonControle = 1;
@@ -244,6 +248,12 @@ void frmMain::ToonLvwR(const std::shared_ptr<const Controle>& controle) {
 }
 
 void frmMain::txt1_LostFocus(std::size_t lijn) {
+    if (leeswacht_->bezig()) {
+        leeswacht_->daarna([this, lijn] {
+            if (isVisible()) txt1_LostFocus(lijn);
+        });
+        return;
+    }
     const std::string letter(1, LijnLetter(lijn));
     const std::string tekst = TeHoogTekst(rijen_->criteria().at(lijn - 1), letter);
     if (tekst.empty()) return;

@@ -16,6 +16,7 @@
 #include "ui/criteriarijen.h"
 #include "ui/elementen.h"
 #include "ui/frmToelichting.h"
+#include "ui/leeswacht.h"
 #include "ui/paneel_P10.h"
 #include "ui/paneel_P20.h"
 
@@ -31,6 +32,7 @@ public:
         Werk uitvoer = [](frmMain&) {};      // "Uitvoerlijsten ..."
         Werk leegLijst = [](frmMain&) {};    // empties the list in the preview
         Werk sluitUitvoer = [](frmMain&) {}; // closes the previews
+        Klok nu = std::chrono::steady_clock::now;
     };
 
     frmMain(Algemeen& algemeen, Instellingen& instellingen, Koppeling koppeling);
@@ -113,7 +115,7 @@ public:
     [[nodiscard]] PaneelP20& raster() { return *raster_; }
     [[nodiscard]] Criteriarijen& rijen() { return *rijen_; }
 
-    /// Runs an event handler: no exception leaves it.
+    /// Runs an event handler: no exception leaves it. Does nothing during a reading.
     void bewaak(const std::function<void()>& handeling);
 
 protected:
@@ -140,6 +142,7 @@ private:
     Criteriarijen* rijen_ = nullptr;
     PaneelP10* ronden_ = nullptr;
     PaneelP20* raster_ = nullptr;
+    Leeswacht* leeswacht_;
     std::shared_ptr<const Uitslag> uitslag_;
     std::int16_t ToonControle = 0; // 0 after "Bereken", 1 after "Controle"
     bool PersoonFilterAan_ = false;

@@ -1,18 +1,18 @@
 #include "ui/paneel_P20.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <unordered_map>
 #include <utility>
 
 #include "ui/frmMain_ontwerp.h"
 #include "ui/maten.h"
+#include "ui/raster_zoom.h"
 #include "ui/schuiver.h"
 #include "ui/stijl.h"
 
 namespace lauwerkrans {
-
-using maten::MmNaarPixels;
-using maten::PixelsNaarMm;
 
 namespace {
 
@@ -22,8 +22,11 @@ constexpr int groteStap = 150;
 /// The column positions of a list: each column as wide as its widest text, header or cell, plus a
 /// margin on both sides.
 std::vector<double> KolomPosities(const Lijst& lijst, const TabelLijf& lijf) {
-    const Meter meet = [&lijf](const std::string& tekst, bool vet) {
-        return lijf.tekstBreedte(QString::fromStdString(tekst), vet);
+    std::array<std::unordered_map<std::string, double>, 2> bekend; // by shape; plain and bold
+    const Meter meet = [&](const std::string& tekst, bool vet) {
+        const auto [plaats, nieuw] = bekend.at(vet ? 1 : 0).try_emplace(Vorm(tekst), 0.0);
+        if (nieuw) plaats->second = lijf.tekstBreedte(QString::fromStdString(tekst), vet);
+        return plaats->second;
     };
     std::vector<double> x = {rooster::zijMarge};
     for (std::size_t kolom = 1; kolom <= lijst.kolommen(); ++kolom) {
@@ -52,11 +55,13 @@ PaneelP20::PaneelP20(QWidget& venster)
     P21->setFocusPolicy(Qt::StrongFocus);
     P21->installEventFilter(this);
     new Schuiver(*P21, *VScroll20, HScroll20);
+    new RasterZoom(venster, {P20, P21, P22, VScroll20, HScroll20},
+                   [this](int procent) { zetVergroting(procent); });
     P21->lower(); // below the header strip
 }
 
-double PaneelP20::zichtBreedte() const { return PixelsNaarMm(P20->contentsRect().width()); }
-double PaneelP20::zichtHoogte() const { return PixelsNaarMm(P20->contentsRect().height()); }
+double PaneelP20::zichtBreedte() const { return P21->mm(P20->contentsRect().width()); }
+double PaneelP20::zichtHoogte() const { return P21->mm(P20->contentsRect().height()); }
 
 void PaneelP20::InitP20() {
     const QWidget& venster = *P20->window();
@@ -94,9 +99,38 @@ void PaneelP20::ToonP20_leeg() {
     VScroll20->setValue(0);
 }
 
-void PaneelP20::Verw_Headers() { VerwijderKopknoppen(cmd20_); }
+void PaneelP20::Verw_Headers() {
+    VerwijderKopknoppen(cmd20_);
+    metKnop_ = {};
+}
 
 void PaneelP20::toon(std::shared_ptr<const Lijst> lijst) {
+    vul(std::move(lijst));
+    HScroll20->setValue(0);
+    VScroll20->setValue(0);
+}
+
+/// The widths of the columns hang on the letters, which have whole pixels; so the scroll position
+/// is that of a column and no number of millimetres.
+void PaneelP20::zetVergroting(int procent) {
+    const std::size_t kolom = P21->kolommenInBeeld().van - 1;
+    const double voorbij = HScroll20->value() - P21->beeld().x.at(kolom);
+    const double factor = procent / 100.0;
+    P21->zetVergroting(factor);
+    P22->setFont(P21->font());
+    for (QScrollBar* schuif : {VScroll20, HScroll20}) {
+        schuif->setSingleStep(static_cast<int>(std::lround(kleineStap / factor)));
+        schuif->setPageStep(static_cast<int>(std::lround(groteStap / factor)));
+    }
+    if (!lijst_) {
+        pasAan();
+        return;
+    }
+    vul(lijst_);
+    HScroll20->setValue(static_cast<int>(std::lround(P21->beeld().x.at(kolom) + voorbij)));
+}
+
+void PaneelP20::vul(std::shared_ptr<const Lijst> lijst) {
     Tabelbeeld beeld = gevuldBeeld(lijst); // may fail; then the old list stays
     Verw_Headers();
     lijst_ = std::move(lijst);
@@ -109,8 +143,6 @@ void PaneelP20::toon(std::shared_ptr<const Lijst> lijst) {
     P21->toon(std::move(beeld));
     LijnBr_Aanpassen();
     pasAan();
-    HScroll20->setValue(0);
-    VScroll20->setValue(0);
 }
 
 Tabelbeeld PaneelP20::leegBeeld() const {
@@ -161,23 +193,29 @@ void PaneelP20::zetSchuiven() {
 
 void PaneelP20::plaatsStrip() {
     const QRect binnen = P20->contentsRect();
-    P22->setGeometry(binnen.left() + static_cast<int>(std::lround(MmNaarPixels(P21->links()))),
-                     binnen.top(), static_cast<int>(std::lround(MmNaarPixels(P21->breedte()))),
-                     static_cast<int>(std::lround(MmNaarPixels(rooster::kopHoogte))));
+    const auto rond = [this](double mm) { return static_cast<int>(std::lround(P21->pixels(mm))); };
+    P22->setGeometry(binnen.left() + rond(P21->links()), binnen.top(), rond(P21->breedte()),
+                     rond(rooster::kopHoogte));
     maakKnoppen();
 }
 
-/// Makes the buttons of the columns that are exposed and do not have one yet.
+/// Gives the exposed columns their buttons and takes those of the others away: thousands of
+/// controls would slow every step down.
 void PaneelP20::maakKnoppen() {
+    TabelLijf::Bereik zichtbaar = P21->kolommenInBeeld();
+    zichtbaar.tot = std::min(zichtbaar.tot, cmd20_.size());
     const auto& x = P21->beeld().x;
-    const double van = -P21->links();
-    const double tot = van + zichtBreedte();
-    for (std::size_t i = 1; i <= cmd20_.size(); ++i) {
-        if (cmd20_[i - 1] != nullptr || x[i] <= van || x[i - 1] >= tot) continue;
-        cmd20_[i - 1] =
-            MaakKopknop(*P22, QStringLiteral("cmd20_%1").arg(i),
-                        QString::fromStdString(lijst_->koppen()[i - 1]), x[i - 1], x[i]);
+    const double vergroting = P21->vergroting();
+    for (std::size_t i = metKnop_.van; i <= metKnop_.tot; ++i) {
+        if (!zichtbaar.heeft(i)) delete std::exchange(cmd20_[i - 1], nullptr);
     }
+    for (std::size_t i = zichtbaar.van; i <= zichtbaar.tot; ++i) {
+        if (cmd20_[i - 1] != nullptr) continue;
+        cmd20_[i - 1] = MaakKopknop(*P22, QStringLiteral("cmd20_%1").arg(i),
+                                    QString::fromStdString(lijst_->koppen()[i - 1]),
+                                    x[i - 1] * vergroting, x[i] * vergroting);
+    }
+    metKnop_ = zichtbaar;
 }
 
 void PaneelP20::SubVscroll20_CS(int waarde) { P21->zetBoven(-waarde); }

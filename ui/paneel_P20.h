@@ -51,6 +51,9 @@ public:
     /// The list on show; none while the grid is empty.
     [[nodiscard]] const std::shared_ptr<const Lijst>& lijst() const { return lijst_; }
 
+    /// Shows the grid so many percent of its size, from the same row and column on.
+    void zetVergroting(int procent);
+
     /// Fits the panel to the size of P20: body, header strip, scroll ranges, ruling.
     void pasAan();
 
@@ -71,6 +74,7 @@ private:
     [[nodiscard]] double zichtHoogte() const;
     [[nodiscard]] Tabelbeeld leegBeeld() const;
     [[nodiscard]] Tabelbeeld gevuldBeeld(const std::shared_ptr<const Lijst>& lijst) const;
+    void vul(std::shared_ptr<const Lijst> lijst);
     void zetSchuiven();
     void plaatsStrip();
     void maakKnoppen();
@@ -88,7 +92,8 @@ private:
     QScrollBar* HScroll20;
     double tabelBreedte_ = 0;
     std::shared_ptr<const Lijst> lijst_;
-    std::vector<QPushButton*> cmd20_; // element i - 1 is button i; made when first exposed
+    std::vector<QPushButton*> cmd20_; // element i - 1 is button i; there while it is exposed
+    TabelLijf::Bereik metKnop_;       // the columns that have theirs
 };
 
 } // namespace lauwerkrans

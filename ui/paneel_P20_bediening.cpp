@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 
+#include "ui/celuitleg.h"
 #include "ui/paneel_P20.h"
 
 namespace lauwerkrans {
@@ -82,6 +83,10 @@ bool PaneelP20::eventFilter(QObject* object, QEvent* gebeurtenis) {
             verbergMarkering();
             return true;
         }
+    }
+    if (gebeurtenis->type() == QEvent::ToolTip) {
+        ToonUitleg(*P21, lijst_.get(), *static_cast<const QHelpEvent*>(gebeurtenis));
+        return true;
     }
     return QObject::eventFilter(object, gebeurtenis);
 }

@@ -6,8 +6,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ui/maten.h"
-
 namespace lauwerkrans {
 
 Schuiver::Schuiver(TabelLijf& lijf, QScrollBar& opEnNeer, QScrollBar* opzij)
@@ -36,7 +34,7 @@ bool Schuiver::eventFilter(QObject* object, QEvent* gebeurtenis) {
 
 bool Schuiver::toets(int toets) {
     const auto rij = static_cast<int>(rooster::rijHoogte);
-    const double zicht = maten::PixelsNaarMm(lijf_.height()) - rooster::kopHoogte;
+    const double zicht = lijf_.mm(lijf_.height()) - rooster::kopHoogte;
     const auto rijen = static_cast<int>(std::max(1.0, std::floor(zicht / rooster::rijHoogte) - 1));
     switch (toets) {
     case Qt::Key_Up:

@@ -11,12 +11,12 @@
 
 #include "ui/maten.h"
 #include "ui/stijl.h"
+#include "ui/tekstvoorraad.h"
 #include "ui/toegang_raster.h"
 
 namespace lauwerkrans {
 
 using maten::MmNaarPixels;
-using maten::PixelsNaarMm;
 
 namespace {
 constexpr int knopRanden = 3; // pixels that a header button keeps beside its text
@@ -45,12 +45,24 @@ void VerwijderKopknoppen(std::vector<QPushButton*>& knoppen) {
 }
 
 TabelLijf::TabelLijf(QWidget* houder, QColor achtergrond)
-    : QWidget(houder), achtergrond_(achtergrond) {
+    : QWidget(houder), achtergrond_(achtergrond), gewonePixels_(font().pixelSize()) {
     InstalleerRasterToegang();
 }
 
-double TabelLijf::px(double xMm) const { return MmNaarPixels(xMm + links_); }
-double TabelLijf::py(double yMm) const { return MmNaarPixels(yMm + boven_); }
+TabelLijf::~TabelLijf() = default;
+
+double TabelLijf::mm(double pixels) const { return maten::PixelsNaarMm(pixels) / vergroting_; }
+double TabelLijf::pixels(double mm) const { return MmNaarPixels(mm) * vergroting_; }
+double TabelLijf::px(double xMm) const { return pixels(xMm + links_); }
+double TabelLijf::py(double yMm) const { return pixels(yMm + boven_); }
+
+void TabelLijf::zetVergroting(double factor) {
+    vergroting_ = factor;
+    QFont letters = font();
+    letters.setPixelSize(static_cast<int>(std::lround(gewonePixels_ * factor)));
+    setFont(letters);
+    update();
+}
 
 void TabelLijf::zetLinks(double mm) {
     links_ = mm;
@@ -75,7 +87,7 @@ void TabelLijf::toon(Tabelbeeld beeld) {
 }
 
 TabelLijf::Bereik TabelLijf::rijenInBeeld() const {
-    const auto strip = static_cast<int>(std::ceil(MmNaarPixels(rooster::kopHoogte)));
+    const auto strip = static_cast<int>(std::ceil(pixels(rooster::kopHoogte)));
     return rijenIn(rect().adjusted(0, strip, 0, 0));
 }
 
@@ -109,21 +121,32 @@ void TabelLijf::markeringGewijzigd() {
 double TabelLijf::tekstBreedte(const QString& tekst, bool vet) const {
     QFont letters = font();
     letters.setBold(vet);
-    return PixelsNaarMm(QFontMetricsF(letters).horizontalAdvance(tekst));
+    return mm(QFontMetricsF(letters).horizontalAdvance(tekst));
 }
 
-double TabelLijf::tekstHoogte() const { return PixelsNaarMm(QFontMetricsF(font()).height()); }
+double TabelLijf::tekstHoogte() const { return mm(QFontMetricsF(font()).height()); }
 
 void TabelLijf::mousePressEvent(QMouseEvent* gebeurtenis) {
     const QPointF punt = gebeurtenis->position();
-    const double x = PixelsNaarMm(punt.x()) - links_;
-    const double y = PixelsNaarMm(punt.y()) - boven_;
+    const double x = mm(punt.x()) - links_;
+    const double y = mm(punt.y()) - boven_;
     if (x < breedte_ && y < hoogte_) emit gedrukt(x, y); // beside it lies the panel
+}
+
+std::optional<TabelLijf::Cel> TabelLijf::celOp(QPointF punt) const {
+    const double x = mm(punt.x()) - links_;
+    const double rij =
+        std::floor((mm(punt.y()) - boven_ - rooster::kopHoogte) / rooster::rijHoogte);
+    if (rij < 0 || rij >= static_cast<double>(beeld_.rijen)) return std::nullopt;
+    if (x < beeld_.x.front() || x >= beeld_.x.back()) return std::nullopt;
+    const auto volgende = std::upper_bound(beeld_.x.begin(), beeld_.x.end(), x);
+    return Cel{static_cast<std::size_t>(rij) + 1,
+               static_cast<std::size_t>(volgende - beeld_.x.begin())};
 }
 
 TabelLijf::Bereik TabelLijf::rijenIn(const QRect& vlak) const {
     const auto rij = [this](int y) {
-        return std::floor((PixelsNaarMm(y) - boven_ - rooster::kopHoogte) / rooster::rijHoogte);
+        return std::floor((mm(y) - boven_ - rooster::kopHoogte) / rooster::rijHoogte);
     };
     const double van = std::max(rij(vlak.top()), 0.0) + 1;
     const double tot = std::min(rij(vlak.bottom() + 1) + 1, static_cast<double>(beeld_.rijen));
@@ -133,8 +156,8 @@ TabelLijf::Bereik TabelLijf::rijenIn(const QRect& vlak) const {
 
 TabelLijf::Bereik TabelLijf::kolommenIn(const QRect& vlak) const {
     const auto& x = beeld_.x;
-    const double van = PixelsNaarMm(vlak.left()) - links_;
-    const double tot = PixelsNaarMm(vlak.right() + 1) - links_;
+    const double van = mm(vlak.left()) - links_;
+    const double tot = mm(vlak.right() + 1) - links_;
     const auto eerste = std::upper_bound(x.begin(), x.end(), van) - x.begin();
     const auto laatste = std::lower_bound(x.begin(), x.end(), tot) - x.begin();
     const auto kolommen = static_cast<std::ptrdiff_t>(x.size()) - 1;
@@ -145,7 +168,7 @@ TabelLijf::Bereik TabelLijf::kolommenIn(const QRect& vlak) const {
 void TabelLijf::paintEvent(QPaintEvent* gebeurtenis) {
     QPainter schilder(this);
     const QRect vlak = gebeurtenis->rect();
-    const QRectF lijf(px(0), py(0), MmNaarPixels(breedte_), MmNaarPixels(hoogte_));
+    const QRectF lijf(px(0), py(0), pixels(breedte_), pixels(hoogte_));
     schilder.fillRect(lijf.intersected(QRectF(vlak)), achtergrond_);
     tekenLijnen(schilder, vlak);
     tekenCellen(schilder, vlak);
@@ -158,7 +181,7 @@ void TabelLijf::tekenPlaatje(QPainter& schilder) const {
     const QSizeF maat = beeld_.plaatje.deviceIndependentSize();
     const double links = beeld_.x.at(beeld_.plaatjeKolom - 1);
     const double rechts = beeld_.x.at(beeld_.plaatjeKolom);
-    const double boven = MmNaarPixels(hoogte_) + tussenruimte;
+    const double boven = pixels(hoogte_) + tussenruimte;
     if (boven + maat.height() > height()) return;
     const QPointF plaats(px((links + rechts) / 2) - maat.width() / 2, boven);
     schilder.drawPixmap(plaats, beeld_.plaatje);
@@ -182,7 +205,7 @@ void TabelLijf::tekenLijnen(QPainter& schilder, const QRect& vlak) const {
     };
     const double tabelBreedte = beeld_.x.size() > 1 ? beeld_.x.back() : breedte_;
     const double eerste =
-        std::floor((PixelsNaarMm(vlak.top()) - boven_ - rooster::kopHoogte) / rooster::rijHoogte);
+        std::floor((mm(vlak.top()) - boven_ - rooster::kopHoogte) / rooster::rijHoogte);
     for (auto k = static_cast<std::size_t>(std::max(eerste, 0.0)); k < beeld_.lijnen; ++k) {
         const double y = rooster::kopHoogte + rooster::rijHoogte * static_cast<double>(k);
         if (py(y) > vlak.bottom() + 1) break;
@@ -199,31 +222,40 @@ void TabelLijf::tekenLijnen(QPainter& schilder, const QRect& vlak) const {
     }
 }
 
-void TabelLijf::tekenCellen(QPainter& schilder, const QRect& vlak) const {
+void TabelLijf::tekenCellen(QPainter& schilder, const QRect& vlak) {
     const Bereik rijen = rijenIn(vlak);
     const Bereik kolommen = kolommenIn(vlak);
-    for (std::size_t rij = rijen.van; rij <= rijen.tot; ++rij) {
-        for (std::size_t kolom = kolommen.van; kolom <= kolommen.tot; ++kolom) {
-            tekenCel(schilder, rij, kolom);
+    const double marge = (rooster::rijHoogte - tekstHoogte()) / 2;
+    for (std::size_t kolom = kolommen.van; kolom <= kolommen.tot; ++kolom) {
+        const double midden = px((beeld_.x[kolom - 1] + beeld_.x[kolom]) / 2);
+        for (std::size_t rij = rijen.van; rij <= rijen.tot; ++rij) {
+            const Celbeeld cel = beeld_.cel(rij, kolom);
+            if (cel.tekst.isEmpty()) continue;
+            const double boven =
+                rooster::kopHoogte + marge + rooster::rijHoogte * static_cast<double>(rij - 1);
+            schilder.setPen(cel.kleur);
+            voorraad(cel.vet).teken(schilder, midden, py(boven), cel.tekst);
         }
     }
 }
 
-void TabelLijf::tekenCel(QPainter& schilder, std::size_t rij, std::size_t kolom) const {
-    const Celbeeld cel = beeld_.cel(rij, kolom);
-    if (cel.tekst.isEmpty()) return;
-    QFont letters = font();
-    letters.setBold(cel.vet);
-    const QFontMetricsF maat(letters);
-    const double links = beeld_.x[kolom - 1];
-    const double breedte = beeld_.x[kolom] - links;
-    const double x = px(links + (breedte - PixelsNaarMm(maat.horizontalAdvance(cel.tekst))) / 2);
-    const double marge = (rooster::rijHoogte - tekstHoogte()) / 2;
-    const double y =
-        py(rooster::kopHoogte + marge + rooster::rijHoogte * static_cast<double>(rij - 1));
-    schilder.setFont(letters);
-    schilder.setPen(cel.kleur);
-    schilder.drawText(QPointF(x, std::round(y + maat.ascent())), cel.tekst);
+/// The texts in the body's present font.
+Tekstvoorraad& TabelLijf::voorraad(bool vet) {
+    std::unique_ptr<Tekstvoorraad>& voorraad = vet ? vet_ : gewoon_;
+    if (!voorraad) {
+        QFont letters = font();
+        letters.setBold(vet);
+        voorraad = std::make_unique<Tekstvoorraad>(letters);
+    }
+    return *voorraad;
+}
+
+void TabelLijf::changeEvent(QEvent* gebeurtenis) {
+    if (gebeurtenis->type() == QEvent::FontChange) {
+        gewoon_.reset();
+        vet_.reset();
+    }
+    QWidget::changeEvent(gebeurtenis);
 }
 
 } // namespace lauwerkrans

@@ -10,11 +10,15 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <vector>
 
 #include "ui/elementen.h"
 
 namespace lauwerkrans {
+
+class Tekstvoorraad;
 
 /// Measures that the panels share, in millimetres.
 namespace rooster {
@@ -65,6 +69,11 @@ class TabelLijf : public QWidget {
     Q_PROPERTY(double hoogte READ hoogte)
 public:
     TabelLijf(QWidget* houder, QColor achtergrond);
+    TabelLijf(const TabelLijf&) = delete;
+    TabelLijf(TabelLijf&&) = delete;
+    TabelLijf& operator=(const TabelLijf&) = delete;
+    TabelLijf& operator=(TabelLijf&&) = delete;
+    ~TabelLijf() override;
 
     [[nodiscard]] double links() const { return links_; }
     [[nodiscard]] double boven() const { return boven_; }
@@ -74,12 +83,20 @@ public:
     void zetBoven(double mm);
     void zetMaat(double breedteMm, double hoogteMm);
 
+    /// Draws everything so many times as large, the letters too; the millimetres of this class
+    /// stay those of the size 1.
+    void zetVergroting(double factor);
+    [[nodiscard]] double vergroting() const { return vergroting_; }
+    /// Lengths on the screen (logical pixels) and in the table (mm).
+    [[nodiscard]] double mm(double pixels) const;
+    [[nodiscard]] double pixels(double mm) const;
+
     /// Replaces what is shown and draws it anew.
     void toon(Tabelbeeld beeld);
 
     [[nodiscard]] const Tabelbeeld& beeld() const { return beeld_; }
 
-    /// Rows or columns from..to (from 1); none when from > to.
+    /// Rows or columns from..to (from 1) of which something is exposed; none when from > to.
     struct Bereik {
         std::size_t van = 1;
         std::size_t tot = 0;
@@ -104,6 +121,14 @@ public:
     /// The mark was set, moved or taken away: draws it and tells a screen reader.
     void markeringGewijzigd();
 
+    /// Row and column, both from 1.
+    struct Cel {
+        std::size_t rij;
+        std::size_t kolom;
+    };
+    /// The cell at a point of this control (pixels), if there is one.
+    [[nodiscard]] std::optional<Cel> celOp(QPointF punt) const;
+
     /// The width of a text in mm, as it is drawn.
     [[nodiscard]] double tekstBreedte(const QString& tekst, bool vet) const;
     /// The height of the text "Aa" in mm.
@@ -116,14 +141,15 @@ signals:
 protected:
     void paintEvent(QPaintEvent* gebeurtenis) override;
     void mousePressEvent(QMouseEvent* gebeurtenis) override;
+    void changeEvent(QEvent* gebeurtenis) override;
 
 private:
     /// The rows or columns of which something is exposed.
     [[nodiscard]] Bereik rijenIn(const QRect& vlak) const;
     [[nodiscard]] Bereik kolommenIn(const QRect& vlak) const;
     void tekenLijnen(QPainter& schilder, const QRect& vlak) const;
-    void tekenCellen(QPainter& schilder, const QRect& vlak) const;
-    void tekenCel(QPainter& schilder, std::size_t rij, std::size_t kolom) const;
+    void tekenCellen(QPainter& schilder, const QRect& vlak);
+    [[nodiscard]] Tekstvoorraad& voorraad(bool vet);
     void tekenStrepen(QPainter& schilder) const;
     void tekenPlaatje(QPainter& schilder) const;
     [[nodiscard]] double px(double xMm) const;
@@ -131,11 +157,15 @@ private:
 
     QColor achtergrond_;
     Tabelbeeld beeld_;
+    double vergroting_ = 1;
+    int gewonePixels_ = 0; // height of the letters at size 1
     double links_ = 0;
     double boven_ = 0;
     double breedte_ = 0;
     double hoogte_ = 0;
-    std::size_t gemeldeRij_ = 0; // the marked row that a screen reader knows of
+    std::size_t gemeldeRij_ = 0;            // the marked row that a screen reader knows of
+    std::unique_ptr<Tekstvoorraad> gewoon_; // made when first drawn
+    std::unique_ptr<Tekstvoorraad> vet_;
 };
 
 } // namespace lauwerkrans

@@ -83,16 +83,10 @@ public:
                                 kolommen.van);
     }
     [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override {
-        const QPointF punt = lijf().mapFromGlobal(QPoint(x, y));
-        const auto rijen = lijf().rijenInBeeld();
-        const auto kolommen = lijf().kolommenInBeeld();
-        for (std::size_t rij = rijen.van; rij <= rijen.tot; ++rij) {
-            if (punt.y() >= lijf().celVak(rij, kolommen.van).bottom()) continue;
-            for (std::size_t kolom = kolommen.van; kolom <= kolommen.tot; ++kolom) {
-                if (lijf().celVak(rij, kolom).contains(punt)) return cel(rij, kolom);
-            }
-        }
-        return nullptr;
+        const auto plaats = lijf().celOp(lijf().mapFromGlobal(QPoint(x, y)));
+        const bool inBeeld = plaats && lijf().rijenInBeeld().heeft(plaats->rij) &&
+                             lijf().kolommenInBeeld().heeft(plaats->kolom);
+        return inBeeld ? cel(plaats->rij, plaats->kolom) : nullptr;
     }
     /// The first cell of the marked row.
     [[nodiscard]] QAccessibleInterface* focusChild() const override {

@@ -25,6 +25,7 @@ Vensterproef::Vensterproef(int ronden, int zittingen, int lijnen)
         ++einde;
         bewaar(hoofdvenster);
     };
+    koppeling.nu = [this] { return klok(); };
     venster = std::make_unique<frmMain>(competitie.algemeen, instellingen, std::move(koppeling));
 }
 

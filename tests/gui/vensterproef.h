@@ -68,6 +68,7 @@ public:
     bool gestart = false;
     std::unique_ptr<frmMain> venster;
     int einde = 0; // how often the program was left
+    Klok klok = [] { return std::chrono::steady_clock::time_point(); }; // stands still
 };
 
 } // namespace lauwerkrans::proef

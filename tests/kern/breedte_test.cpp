@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <limits>
 #include <random>
 
 #include "scores.h"
@@ -93,8 +94,40 @@ TEST(BreedsteCel, SeesEveryOddText) {
 
 /// -5 has as many digits as 12 has with its sign left out, but "-05" is wider.
 TEST(BreedsteCel, SeesANegativeNumberOfBoards) {
-    ControleerControlelijst(
-        Scores({"1"}, {{'A', 1, 2, 1, 1, "50", 12}, {'A', 3, 4, 1, 1, "50", -5}}));
+    const Scores scores({"1"}, {{'A', 1, 2, 1, 1, "50", 12}, {'A', 3, 4, 1, 1, "50", -5}});
+    ControleerControlelijst(scores);
+    ControleerRanglijst(scores, {});
+}
+
+TEST(BreedsteCel, SeesTheWidestNumbersThatASessionCanHave) {
+    using Grens = std::numeric_limits<std::int32_t>;
+    for (const std::int32_t aantal : {0, 99, 100, 32767, Grens::max(), Grens::min()}) {
+        for (const char* percentage : {"0", "0,001", "99,999", "100"})
+            ControleerRanglijst(Scores({"1"}, {{'A', 1, 2, 1, 1, percentage, aantal}}), {});
+    }
+}
+
+/// Measuring cell by cell would ask for pairs times sessions, most of which were never played.
+TEST(BreedsteCel, OfManySessionsMeasuresFewTexts) {
+    const std::string gespeeld(99, '1');
+    std::vector<Score> scores;
+    for (std::uint8_t zitting = 1; zitting <= 99; ++zitting) {
+        for (std::uint32_t paar = 0; paar < 40; ++paar)
+            scores.push_back({'A', 2 * paar + 1, 2 * paar + 2, 1, zitting, "50"});
+    }
+    const Scores veel({gespeeld}, scores);
+    auto uitslag = std::make_shared<Uitslag>();
+    uitslag->rondeInfo = veel.rondeInfo;
+    uitslag->resultaat = proef::Bereken(veel, {"0"}, {});
+    const auto lijst = MaakRanglijst(uitslag, true);
+    std::size_t gemeten = 0;
+    const Meter meet = [&gemeten](const std::string& tekst, bool vet) {
+        ++gemeten;
+        return Breedte(tekst, vet);
+    };
+    for (std::size_t kolom = 7; kolom <= lijst->kolommen(); ++kolom)
+        EXPECT_GT(lijst->breedsteCel(kolom, meet), 0);
+    EXPECT_EQ(gemeten, 99U) << "one text per session";
 }
 
 TEST(BreedsteCel, OfTheNamesIsThatOfAPairNotOfTwoNames) {

@@ -70,6 +70,16 @@ TEST(RondeInfo, NumbersPlayedSessionsAcrossRounds) {
         EXPECT_EQ(info.volgnummer(i / 3 + 1, i % 3 + 1), nummers[i]) << i;
 }
 
+TEST(RondeInfo, FindsTheSessionOfANumber) {
+    const RondeInfo info(2, 3, {true, false, true, false, true, true});
+    using Zitting = std::pair<std::size_t, std::size_t>;
+    EXPECT_EQ(info.zitting(1), (Zitting{1, 1}));
+    EXPECT_EQ(info.zitting(2), (Zitting{1, 3}));
+    EXPECT_EQ(info.zitting(4), (Zitting{2, 3}));
+    for (const std::size_t geen : {0U, 5U})
+        EXPECT_THROW(static_cast<void>(info.zitting(geen)), std::out_of_range);
+}
+
 TEST(RondeInfo, InOrderNumbersASessionByTheSumOfTheRoundsBeforeIt) {
     const RondeInfo info(3, 2, {true, true, true, false, true, true});
     for (std::size_t ronde = 1; ronde <= 3; ++ronde) {
