@@ -7,6 +7,7 @@
 
 #include "app/frmMain_start.h"
 #include "ui/berichten.h"
+#include "ui/hoog_contrast.h"
 #include "ui/klein_scherm.h"
 #include "ui/maten.h"
 #include "ui/pictogram.h"
@@ -17,7 +18,7 @@
 int main(int argc, char** argv) {
     using namespace lauwerkrans;
     QApplication toepassing(argc, argv);
-    ZetStijl(toepassing);
+    ZetStijl(toepassing, HoogContrast());
     ZetTaal(toepassing);
     QApplication::setWindowIcon(Pictogram());
 

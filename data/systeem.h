@@ -37,6 +37,9 @@ struct Leesbuffer {
 /// Whether a file stands at exactly this path; a folder is none.
 [[nodiscard]] bool IsBestand(const std::string& pad);
 
+/// Whether the system asks programs for high contrast. Only Windows has a call for it.
+[[nodiscard]] bool VraagtHoogContrast();
+
 /// Whether a file or a folder stands at exactly this path.
 [[nodiscard]] bool Bestaat(const std::string& pad);
 

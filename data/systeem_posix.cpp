@@ -168,6 +168,8 @@ EnigeKopie::~EnigeKopie() {
 
 bool LetterkastTeltNiet() { return false; }
 
+bool VraagtHoogContrast() { return false; }
+
 std::optional<Bovenhelft> EigenCodetabel() { return std::nullopt; }
 
 } // namespace lauwerkrans::systeem

@@ -297,6 +297,13 @@ EnigeKopie::~EnigeKopie() {
 
 bool LetterkastTeltNiet() { return true; }
 
+bool VraagtHoogContrast() {
+    HIGHCONTRASTW stand{};
+    stand.cbSize = sizeof(stand);
+    return ::SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof(stand), &stand, 0) != 0 &&
+           (stand.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
 std::optional<Bovenhelft> EigenCodetabel() {
     CPINFO gegevens{};
     if (::GetCPInfo(CP_ACP, &gegevens) == 0 || gegevens.MaxCharSize != 1) return std::nullopt;

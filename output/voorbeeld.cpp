@@ -73,7 +73,7 @@ void BladVlak::zetSchaal(double schaal) {
 void BladVlak::paintEvent(QPaintEvent* gebeurtenis) {
     QPainter schilder(this);
     const QRect deel = gebeurtenis->rect();
-    schilder.fillRect(deel, kleuren::wit);
+    schilder.fillRect(deel, Qt::white); // paper, in high contrast too
     const Uitsnede gezien{deel.top() / schaal_, (deel.bottom() + 1) / schaal_};
     TekenBlad(schilder, bladen_->blad(nummer_, MeetBladtekst, gezien), schaal_);
     TrekRand(schilder, rect(), kleuren::rand);
@@ -102,7 +102,7 @@ Voorbeeld::Voorbeeld(QWidget& venster)
     P9_->setObjectName(QStringLiteral("P9"));
     P9_->setAutoFillBackground(true);
     QPalette palet = P9_->palette();
-    palet.setColor(QPalette::Window, kleuren::uitgeschakeld);
+    palet.setColor(QPalette::Window, Schermkleur(kleuren::uitgeschakeld, QPalette::Window));
     P9_->setPalette(palet);
     connect(P1_, &BladVlak::geklikt, this, &Voorbeeld::vergroot);
     connect(VScroll1_, &QScrollBar::valueChanged, this, &Voorbeeld::schuif);

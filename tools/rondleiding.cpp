@@ -1,6 +1,7 @@
 // A short tour of the real windows: starts the main window on a program folder, presses its
 // buttons and keeps a picture of every state. Arguments: the program folder, the folder for the
-// pictures and the suite's folder with the example of the manual.
+// pictures, the suite's folder with the example of the manual, and perhaps "hoog-contrast": as on a
+// desktop of white letters on black.
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
@@ -15,7 +16,9 @@
 
 #include "app/frmMain_start.h"
 #include "tools/generator.h"
+#include "tools/zwart_bureaublad.h"
 #include "ui/berichten.h"
+#include "ui/hoog_contrast.h"
 #include "ui/ontwerp.h"
 #include "ui/stijl.h"
 #include "ui/taal.h"
@@ -238,11 +241,15 @@ bool ToonAndereCompetities(const QString& programmaMap, const QString& beelden) 
 int main(int argc, char** argv) {
     QApplication toepassing(argc, argv);
     const QStringList woorden = QApplication::arguments();
-    if (woorden.size() != 4) {
-        QTextStream(stderr) << "gebruik: rondleiding PROGRAMMAMAP BEELDENMAP VOORBEELD" << Qt::endl;
+    const bool hoogContrast = woorden.size() == 5 && woorden[4] == QStringLiteral("hoog-contrast");
+    if (woorden.size() != 4 && !hoogContrast) {
+        QTextStream(stderr) << "gebruik: rondleiding PROGRAMMAMAP BEELDENMAP VOORBEELD "
+                               "[hoog-contrast]"
+                            << Qt::endl;
         return 2;
     }
-    ZetStijl(toepassing);
+    if (hoogContrast) QApplication::setPalette(ZwartBureaublad());
+    ZetStijl(toepassing, HoogContrast());
     ZetTaal(toepassing);
     QDir().mkpath(woorden[2]);
     Rondleiding rondleiding(woorden[1], woorden[2]);

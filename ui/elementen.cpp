@@ -31,7 +31,8 @@ protected:
     void paintEvent(QPaintEvent* /*gebeurtenis*/) override {
         QPainter schilder(this);
         const bool focus = isLijf(QApplication::focusWidget());
-        const QColor kleur = focus ? palette().color(QPalette::Highlight) : kleuren::rand;
+        const QColor kleur = focus ? palette().color(QPalette::Highlight)
+                                   : Schermkleur(kleuren::rand, QPalette::WindowText);
         TrekRand(schilder, rect(), kleur);
         if (focus) TrekRand(schilder, rect().adjusted(1, 1, -1, -1), kleur);
     }
@@ -72,7 +73,8 @@ void Kader::paintEvent(QPaintEvent* /*gebeurtenis*/) {
     const int breedte = maat.horizontalAdvance(title());
     const QRect titel(titelLinks - 3, 0, breedte + 6, 2 * randHoogte);
     schilder.setClipRegion(QRegion(rect()).subtracted(titel));
-    TrekRand(schilder, rect().adjusted(0, randHoogte, 0, 0), kleuren::actieveRand);
+    TrekRand(schilder, rect().adjusted(0, randHoogte, 0, 0),
+             Schermkleur(kleuren::actieveRand, QPalette::WindowText));
     schilder.setClipping(false);
     schilder.setPen(isEnabled() ? titelKleur_ : palette().color(QPalette::WindowText));
     schilder.drawText(titelLinks, randHoogte + (maat.ascent() - maat.descent()) / 2 + 1, title());

@@ -19,8 +19,8 @@ bool Heeft(const Ontwerp& ontwerp, Trek trek) { return (ontwerp.trek & trek) != 
 QString Tekst(const char* utf8) { return QString::fromUtf8(utf8); }
 
 QColor Voorgrond(const Ontwerp& ontwerp) {
-    if (Heeft(ontwerp, Blauw)) return kleuren::blauw;
-    return Heeft(ontwerp, Rood) ? kleuren::rood : kleuren::zwart;
+    const QColor kleur = Heeft(ontwerp, Rood) ? kleuren::rood : kleuren::zwart;
+    return Schermkleur(Heeft(ontwerp, Blauw) ? kleuren::blauw : kleur, QPalette::WindowText);
 }
 
 QColor Achtergrond(Vlak vlak) {
@@ -89,7 +89,8 @@ QWidget* MaakLijst(QWidget* houder, const Ontwerp& ontwerp) {
 QWidget* MaakPaneel(QWidget* houder, const Ontwerp& ontwerp) {
     auto* paneel = new Paneel(houder, Heeft(ontwerp, Rand));
     QPalette palet = paneel->palette();
-    palet.setColor(QPalette::All, QPalette::Window, Achtergrond(ontwerp.vlak));
+    palet.setColor(QPalette::All, QPalette::Window,
+                   Schermkleur(Achtergrond(ontwerp.vlak), QPalette::Base));
     paneel->setPalette(palet);
     paneel->setAutoFillBackground(true);
     return paneel;
@@ -162,7 +163,7 @@ QWidget* MaakWidget(QWidget* houder, const Ontwerp& ontwerp) {
     case Soort::Paneel:
         return MaakPaneel(houder, ontwerp);
     case Soort::Tabel:
-        return new TabelLijf(houder, Achtergrond(ontwerp.vlak));
+        return new TabelLijf(houder, Schermkleur(Achtergrond(ontwerp.vlak), QPalette::Base));
     case Soort::Label:
         return MaakLabel(houder, ontwerp);
     case Soort::KopLabel:

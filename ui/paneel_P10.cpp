@@ -79,7 +79,7 @@ void PaneelP10::ToonP10_leeg() {
     P11->zetMaat(zichtBreedte(), zichtHoogte());
     zetStrip(rooster::kopHoogte);
     Tabelbeeld beeld;
-    beeld.lijnKleur = kleuren::rasterLeeg;
+    beeld.lijnKleur = Schermkleur(kleuren::rasterLeeg, QPalette::Text);
     beeld.lijnen = static_cast<std::size_t>(P11->hoogte() / rooster::rijHoogte);
     P11->toon(std::move(beeld));
 }
@@ -91,11 +91,11 @@ void PaneelP10::Toon_in_P10(const RondeInfo& rondeInfo) {
     beeld.x = KolomPosities();
     beeld.rijen = rondeInfo.ronden();
     beeld.lijnen = beeld.rijen + 1;
-    beeld.lijnKleur = kleuren::rasterGevuld;
+    beeld.lijnKleur = Schermkleur(kleuren::rasterGevuld, QPalette::Text);
     beeld.cel = [rondeInfo](std::size_t rij, std::size_t kolom) {
         const std::string tekst = rondeInfo.cel(rij, kolom);
         return Celbeeld{tekst == "0" ? QString() : QString::fromStdString(tekst), false,
-                        kleuren::zwart};
+                        Schermkleur(kleuren::zwart, QPalette::Text)};
     };
     beeld.kop = [](std::size_t kolom) { return QString::fromLatin1(kolommen.at(kolom - 1).kop); };
     beeld.kopknop = [this](std::size_t kolom) { return cmd10_.at(kolom - 1); };

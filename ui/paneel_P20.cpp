@@ -147,7 +147,7 @@ void PaneelP20::vul(std::shared_ptr<const Lijst> lijst) {
 
 Tabelbeeld PaneelP20::leegBeeld() const {
     Tabelbeeld beeld;
-    beeld.lijnKleur = kleuren::rasterLeeg;
+    beeld.lijnKleur = Schermkleur(kleuren::rasterLeeg, QPalette::Text);
     beeld.lijnen = static_cast<std::size_t>(zichtHoogte() / rooster::rijHoogte);
     return beeld;
 }
@@ -157,11 +157,12 @@ Tabelbeeld PaneelP20::gevuldBeeld(const std::shared_ptr<const Lijst>& lijst) con
     beeld.x = KolomPosities(*lijst, *P21);
     beeld.rijen = lijst->rijen();
     beeld.lijnen = beeld.rijen + 1;
-    beeld.lijnKleur = kleuren::rasterGevuld;
+    beeld.lijnKleur = Schermkleur(kleuren::rasterGevuld, QPalette::Text);
     beeld.cel = [lijst](std::size_t rij, std::size_t kolom) {
         const bool vet = lijst->vet(kolom);
         return Celbeeld{QString::fromStdString(lijst->cel(rij, kolom)), vet,
-                        vet ? LijnKleur(lijst->lijn(rij)) : kleuren::zwart};
+                        vet ? LijnKleur(lijst->lijn(rij))
+                            : Schermkleur(kleuren::zwart, QPalette::Text)};
     };
     beeld.kop = [lijst](std::size_t kolom) {
         return QString::fromStdString(lijst->koppen()[kolom - 1]);

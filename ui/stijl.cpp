@@ -43,14 +43,21 @@ QPalette LichtPalet() {
 
 /// Fusion with the small check boxes that the stated widths count with, with coloured buttons in
 /// exactly their colour, where Fusion makes a paler shade of it, with a focus on buttons that is
-/// seen, and with the light palette for every class of controls, whatever the desktop's theme gives
-/// it and whenever.
+/// seen, and with one palette for every class of controls, whatever the desktop's theme gives it
+/// and whenever: the light one. In high contrast the plain style, whose borders have the colours of
+/// the palette, where Fusion shades that of the plane, and with that palette.
 class Stijl : public QProxyStyle {
 public:
-    Stijl() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+    explicit Stijl(const std::optional<QPalette>& hoogContrast)
+        : QProxyStyle(QStyleFactory::create(hoogContrast ? QStringLiteral("Windows")
+                                                         : QStringLiteral("Fusion"))),
+          palet_(hoogContrast.value_or(LichtPalet())), hoogContrast_(hoogContrast.has_value()) {}
+
+    [[nodiscard]] const QPalette& palet() const { return palet_; }
+    [[nodiscard]] bool hoogContrast() const { return hoogContrast_; }
 
     using QProxyStyle::polish;
-    void polish(QPalette& palet) override { palet = LichtPalet(); }
+    void polish(QPalette& palet) override { palet = palet_; }
 
     [[nodiscard]] int pixelMetric(PixelMetric maat, const QStyleOption* optie,
                                   const QWidget* element) const override {
@@ -65,13 +72,20 @@ public:
         }
     }
 
+    /// A caption that cannot be pressed is drawn once, without a white shadow.
+    int styleHint(StyleHint wens, const QStyleOption* optie, const QWidget* element,
+                  QStyleHintReturn* antwoord) const override {
+        if (wens == SH_EtchDisabledText) return 0;
+        return QProxyStyle::styleHint(wens, optie, element, antwoord);
+    }
+
     void drawPrimitive(PrimitiveElement deel, const QStyleOption* optie, QPainter* schilder,
                        const QWidget* element) const override {
         QProxyStyle::drawPrimitive(deel, optie, schilder, element);
         if (deel != PE_PanelButtonCommand) return;
         schilder->save();
         schilder->setRenderHint(QPainter::Antialiasing);
-        kleurKnop(*optie, *schilder);
+        if (!hoogContrast_) kleurKnop(*optie, *schilder);
         toonFocus(*optie, *schilder);
         schilder->restore();
     }
@@ -95,15 +109,29 @@ private:
         schilder.setBrush(Qt::NoBrush);
         schilder.drawRoundedRect(QRectF(optie.rect).adjusted(1.5, 1.5, -1.5, -1.5), 1.5, 1.5);
     }
+
+    QPalette palet_;
+    bool hoogContrast_;
 };
+
+bool IsHoogContrast() {
+    const auto* stijl = dynamic_cast<const Stijl*>(QApplication::style());
+    return stijl != nullptr && stijl->hoogContrast();
+}
+
 } // namespace
+
+QColor Schermkleur(QColor vast, QPalette::ColorRole rol) {
+    return IsHoogContrast() ? QApplication::palette().color(rol) : vast;
+}
 
 QColor LijnKleur(char letter) {
     static constexpr std::array<QColor, 8> kleurPerLijn = {
         kleuren::blauw,      QColor(192, 0, 0),   QColor(0, 110, 0),  QColor(128, 0, 128),
         QColor(0, 110, 110), QColor(139, 69, 19), QColor(80, 80, 80), QColor(0, 0, 128)};
     const auto nummer = static_cast<unsigned char>(letter) - static_cast<unsigned char>('A');
-    return kleurPerLijn.at(static_cast<std::size_t>(nummer) % kleurPerLijn.size());
+    return Schermkleur(kleurPerLijn.at(static_cast<std::size_t>(nummer) % kleurPerLijn.size()),
+                       QPalette::Text);
 }
 
 QFont Letters(int pixels, bool vet) {
@@ -119,11 +147,12 @@ QFont Letters(int pixels, bool vet) {
 }
 
 /// The application must be there; what it is given, the toolkit keeps for all of it.
-void ZetStijl(QApplication& /*toepassing*/) {
+void ZetStijl(QApplication& /*toepassing*/, const std::optional<QPalette>& hoogContrast) {
     constexpr int gewoon = 11;
-    QApplication::setStyle(new Stijl);
-    QApplication::setPalette(LichtPalet());
-    QToolTip::setPalette(LichtPalet());
+    auto* stijl = new Stijl(hoogContrast);
+    QApplication::setStyle(stijl);
+    QApplication::setPalette(stijl->palet());
+    QToolTip::setPalette(stijl->palet());
     QApplication::setFont(Letters(gewoon, false));
 }
 
@@ -145,6 +174,7 @@ void TrekRand(QPainter& schilder, const QRect& vak, QColor kleur) {
 
 QPalette MetKleuren(QPalette palet, QPalette::ColorRole vlak, QColor achtergrond,
                     QPalette::ColorRole tekst, QColor voorgrond) {
+    if (IsHoogContrast()) return palet;
     for (const auto groep : {QPalette::Active, QPalette::Inactive}) {
         palet.setColor(groep, vlak, achtergrond);
         palet.setColor(groep, tekst, voorgrond);

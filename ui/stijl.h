@@ -8,6 +8,8 @@
 #include <QPalette>
 #include <QString>
 
+#include <optional>
+
 namespace lauwerkrans {
 
 namespace kleuren {
@@ -27,18 +29,24 @@ constexpr QColor rasterLeeg(200, 200, 200);
 constexpr QColor rasterGevuld(210, 210, 210);
 } // namespace kleuren
 
+/// A fixed colour as the screen shows it: itself, or in high contrast what the desktop has for this
+/// role (a plane, letters, something chosen).
+[[nodiscard]] QColor Schermkleur(QColor vast, QPalette::ColorRole rol);
+
 /// The colour of a line's bold cells, by its letter; each has a contrast of at least 4.5:1 on
-/// white. After the eighth line they start again.
+/// white. After the eighth line they start again. In high contrast that of all letters.
 [[nodiscard]] QColor LijnKleur(char letter);
 
 /// The letters of the windows (MS Sans Serif by its scalable successors), in logical pixels: 11
 /// are 8.25 points, 16 are 12 points.
 [[nodiscard]] QFont Letters(int pixels, bool vet);
 
-/// Gives the application its style, palette and letters.
-void ZetStijl(QApplication& toepassing);
+/// Gives the application its style, palette and letters; the palette is that of high contrast when
+/// there is one.
+void ZetStijl(QApplication& toepassing, const std::optional<QPalette>& hoogContrast = {});
 
-/// Background and text of one kind of control, with colours of their own while it is disabled.
+/// Background and text of one kind of control, with colours of their own while it is disabled. In
+/// high contrast the palette as it is.
 [[nodiscard]] QPalette MetKleuren(QPalette palet, QPalette::ColorRole vlak, QColor achtergrond,
                                   QPalette::ColorRole tekst, QColor voorgrond);
 

@@ -194,7 +194,7 @@ void TabelLijf::tekenStrepen(QPainter& schilder) const {
         if (!streep->zichtbaar) continue;
         const double y = std::round(py(streep->y1));
         TrekLijn(schilder, {std::round(px(streep->x1)), y}, {std::round(px(streep->x2)), y},
-                 kleuren::rood, dikte);
+                 Schermkleur(kleuren::rood, QPalette::Highlight), dikte);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QRect>
 #include <QWidget>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <vector>
@@ -31,6 +32,22 @@ inline QRect Omtrek(const QImage& beeld, const QRect& vlak,
         }
     }
     return omtrek;
+}
+
+/// How much lighter one colour is than another, from 1 to 21, as the web's guidelines for access
+/// measure it; they ask 4.5 of a text.
+inline double Contrast(QColor een, QColor ander) {
+    const auto deel = [](int kleur) {
+        const double waarde = kleur / 255.0;
+        return waarde <= 0.04045 ? waarde / 12.92 : std::pow((waarde + 0.055) / 1.055, 2.4);
+    };
+    const auto helderheid = [&deel](QColor kleur) {
+        return 0.2126 * deel(kleur.red()) + 0.7152 * deel(kleur.green()) +
+               0.0722 * deel(kleur.blue());
+    };
+    const double x = helderheid(een);
+    const double y = helderheid(ander);
+    return (std::max(x, y) + 0.05) / (std::min(x, y) + 0.05);
 }
 
 /// Whether a pixel is dark enough to be part of a letter on a light ground.

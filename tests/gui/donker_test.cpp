@@ -45,21 +45,6 @@ void GeefKlassenDonker() {
     QToolTip::setPalette(Donker());
 }
 
-double Deel(int kleur) {
-    const double waarde = kleur / 255.0;
-    return waarde <= 0.04045 ? waarde / 12.92 : std::pow((waarde + 0.055) / 1.055, 2.4);
-}
-
-double Helderheid(QColor kleur) {
-    return 0.2126 * Deel(kleur.red()) + 0.7152 * Deel(kleur.green()) + 0.0722 * Deel(kleur.blue());
-}
-
-double Contrast(QColor een, QColor ander) {
-    const double x = Helderheid(een);
-    const double y = Helderheid(ander);
-    return (std::max(x, y) + 0.05) / (std::min(x, y) + 0.05);
-}
-
 /// What the user may look at, as pictures.
 struct Beelden {
     QImage hoofdvenster, bericht, toelichting;
