@@ -54,10 +54,12 @@ private:
     int greep_;
 };
 
-/// Writes a new file wholly and onto the disk.
+/// Writes a new file wholly and onto the disk. What an earlier time left half there is taken away
+/// first; a link of that name is not followed.
 std::error_code SchrijfEnSpoel(const std::string& pad, std::string_view bytes) {
-    constexpr int vlaggen = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC;
+    constexpr int vlaggen = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
     constexpr ::mode_t rechten = 0666; // less the user's own mask
+    ::unlink(pad.c_str());
     const Bestandsgreep greep(::open(pad.c_str(), vlaggen, rechten));
     if (!greep.open()) return LaatsteFout();
     while (!bytes.empty()) {
