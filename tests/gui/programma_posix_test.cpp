@@ -45,9 +45,10 @@ public:
         return proces_.readLine().trimmed().toStdString();
     }
 
-    /// Does what the user would do: 'o' answers the box, 'e' presses "Einde", 't' "Toelichting".
-    void doe(char letter) {
-        proces_.write(&letter, 1);
+    /// Does what the user would do: "o" answers the box, "e" presses "Einde", "t" "Toelichting";
+    /// more in tests/programma/getuige.cpp.
+    void doe(const char* wat) {
+        proces_.write(wat);
         proces_.waitForBytesWritten(geduld);
     }
 
@@ -121,9 +122,13 @@ protected:
 
 const std::string hoofdvenster =
     "venster Bereken de Club- cq Lijnkampioenen van een parencompetitie.|";
-const std::string alGestart = "bericht Lauwerkrans|Het programma is al gestart!...|icoon " +
-                              std::to_string(QMessageBox::NoIcon) + "|knoppen " +
-                              std::to_string(QMessageBox::Ok);
+
+/// A message box as it is seen; "@" is the end of a line in its text.
+std::string bericht(const std::string& tekst, QMessageBox::Icon icoon) {
+    return "bericht Lauwerkrans|" + tekst + "|icoon " + std::to_string(icoon) + "|knoppen " +
+           std::to_string(QMessageBox::Ok);
+}
+const std::string alGestart = bericht("Het programma is al gestart!...", QMessageBox::NoIcon);
 
 TEST_F(Programma, ASecondCopySaysSoAndEndsWhileTheFirstGoesOn) {
     Kopie eerste(programma);
@@ -131,12 +136,12 @@ TEST_F(Programma, ASecondCopySaysSoAndEndsWhileTheFirstGoesOn) {
     Kopie tweede(programma);
     EXPECT_EQ(tweede.ziet(), alGestart);
     EXPECT_TRUE(tweede.blijft()) << "until its box is answered";
-    tweede.doe('o');
+    tweede.doe("o");
     EXPECT_EQ(tweede.status(), 0);
     EXPECT_EQ(tweede.ziet(), "") << "no window after the box";
     EXPECT_TRUE(eerste.blijft());
     EXPECT_FALSE(heeftIni());
-    eerste.doe('e');
+    eerste.doe("e");
     EXPECT_EQ(eerste.status(), 0);
     EXPECT_EQ(eerste.ziet(), "");
     EXPECT_TRUE(heeftIni());
@@ -167,18 +172,53 @@ TEST_F(Programma, AfterAKillTheNextStartIsNotRefused) {
     }
 }
 
+TEST_F(Programma, GoesOnAfterWhateverIsThrownOutOfAHandlerOfAnEvent) {
+    const std::vector<std::pair<const char*, std::string>> gevallen = {
+        {"ggeheugen\n", "Er is niet genoeg geheugen vrij om dit te doen."},
+        {"gprogramma\n", "Dit is niet gelukt door een fout in het programma:@@proef"},
+        {"gfout\n", "Fout in het bestand 'kort.txt':@@het bestand is niet compleet."},
+        {"g42\n", "Dit is niet gelukt door een onbekende fout in het programma."}};
+    Kopie kopie(programma);
+    ASSERT_TRUE(kopie.ziet().starts_with(hoofdvenster));
+    for (const auto& [wat, tekst] : gevallen) {
+        kopie.doe(wat);
+        EXPECT_EQ(kopie.ziet(), bericht(tekst, QMessageBox::Warning)) << wat;
+        kopie.doe("o");
+    }
+    kopie.doe("t");
+    EXPECT_TRUE(kopie.ziet().starts_with("venster Toelichting|"));
+    EXPECT_FALSE(heeftIni());
+    kopie.doe("e");
+    EXPECT_EQ(kopie.status(), 0);
+    EXPECT_TRUE(heeftIni());
+}
+
+TEST_F(Programma, WhoseSettingsCannotBeWrittenSaysSoAndEnds) {
+    competitie.map().maakMap("Lauwerkrans/Lauwr.ini");
+    Kopie kopie(programma);
+    ASSERT_TRUE(kopie.ziet().starts_with(hoofdvenster));
+    kopie.doe("e");
+    EXPECT_EQ(kopie.ziet(), bericht("Het bestand '" + competitie.map().pad() +
+                                        "/Lauwerkrans/Lauwr.ini' kan niet worden geschreven: er "
+                                        "staat een map met die naam.",
+                                    QMessageBox::Warning));
+    kopie.doe("o");
+    EXPECT_EQ(kopie.status(), 0);
+    EXPECT_EQ(kopie.ziet(), "");
+}
+
 TEST_F(Programma, OpensInTheMiddleOfTheScreen) {
     Kopie kopie(programma, scherm(1600, 1200));
     // Its frame and title bar count: 13000 x 7640 twips in the middle.
     EXPECT_EQ(kopie.ziet(), hoofdvenster + " 366 345 861 480| 0 0 1600 1200");
-    kopie.doe('t');
+    kopie.doe("t");
     EXPECT_EQ(kopie.ziet(), "venster Toelichting| 479 332 634 480| 0 0 1600 1200");
 }
 
 TEST_F(Programma, FitsOnASmallScreenWithItsExplanation) {
     Kopie kopie(programma, scherm(634, 480)); // less the frame: 6 x 29 pixels
     EXPECT_EQ(kopie.ziet(), hoofdvenster + " 0 0 628 451| 0 0 634 480");
-    kopie.doe('t');
+    kopie.doe("t");
     EXPECT_EQ(kopie.ziet(), "venster Toelichting| 0 0 628 451| 0 0 634 480");
 }
 
@@ -189,7 +229,7 @@ TEST_F(Programma, WithoutFolderConfigurationEndsWithStatusOne) {
     EXPECT_TRUE(gezien.starts_with("bericht Lauwerkrans|Het bestand '" + competitie.map().pad() +
                                    "/Mappen.ini' kan niet worden gelezen: "))
         << gezien;
-    kopie.doe('o');
+    kopie.doe("o");
     EXPECT_EQ(kopie.status(), 1);
     EXPECT_EQ(kopie.ziet(), "");
 }
