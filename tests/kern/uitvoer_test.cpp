@@ -40,6 +40,26 @@ TEST_F(Uitvoernamen, HaveTheCleanedPrefix) {
     EXPECT_EQ(Uitvoernaam(uitvoer, ".HTML"), "Lauwr_A_B_2024_LijnAB.HTML");
 }
 
+TEST_F(Uitvoernamen, StayInTheFolderWhateverThePrefixIs) {
+    const std::vector<std::pair<std::string, std::string>> prefixen = {
+        {"../../x", ".._.._x"}, {"..\\..\\x", ".._.._x"}, {"/etc/x", "_etc_x"},
+        {"C:\\x", "C__x"},      {"a:b", "a_b"},           {"CON", "CON"},
+        {"NUL", "NUL"},         {"%s%n", "%s%n"},         {"a|b > c?", "a_b___c_"}};
+    for (const auto& [prefix, schoon] : prefixen) {
+        uitvoer.InstellingPrefix = prefix;
+        MaakCSV_Lijnen(uitvoer);
+        MaakHtml(uitvoer);
+        const auto inhoud = map.inhoud();
+        EXPECT_EQ(inhoud.size(), 2U) << prefix;
+        for (const char* extensie : {".CSV", ".HTML"}) {
+            std::string naam = "Lauwerkrans/Lauwr_";
+            EXPECT_EQ(inhoud.count(naam.append(schoon).append("_LijnABC").append(extensie)), 1U)
+                << prefix;
+        }
+        map.verwijder("Lauwerkrans");
+    }
+}
+
 class Uitvoermap : public UitvoerTest {};
 
 TEST_F(Uitvoermap, IsMadeInTheProgramFolder) {
