@@ -159,6 +159,23 @@ TEST_F(InstellingenVenster, AFolderThatIsReadOnlyIsReportedOnceAndTheOldFileStay
     EXPECT_FALSE(proef.venster->isVisible());
     EXPECT_EQ(ini(), "__TXT1=13\r\n");
 }
+
+TEST_F(InstellingenVenster, AFileThatCannotGrowIsReportedOnceAndTheOldOneStays) {
+    schrijfIni("__TXT1=13\r\n");
+    proef.start();
+    {
+        const KleineBestanden klein(40);
+        proef.klik("cmdEinde");
+    }
+    EXPECT_EQ(proef.competitie.meldingen.getoond,
+              (std::vector<Melding>{
+                  {"Het bestand '" + proef.competitie.map().pad() +
+                       "/Lauwerkrans/Lauwr.ini' kan niet worden geschreven: het bestand is te "
+                       "groot.",
+                   Icoon::Uitroep}}));
+    EXPECT_FALSE(proef.venster->isVisible());
+    EXPECT_EQ(ini(), "__TXT1=13\r\n");
+}
 #endif
 
 TEST_F(InstellingenVenster, CriteriaSurviveWhenTheLinesCannotBeRead) {
