@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
+#include <cstring>
 #include <iterator>
 #include <memory>
 
@@ -155,7 +156,7 @@ EnigeKopie::EnigeKopie(const std::string& programma)
     ::sockaddr_un adres{};
     adres.sun_family = AF_UNIX;
     const std::string naam = programma.substr(0, 80) + "-" + std::to_string(::getuid());
-    std::copy(naam.begin(), naam.end(), std::begin(adres.sun_path) + 1);
+    std::memcpy(std::begin(adres.sun_path) + 1, naam.data(), naam.size());
     const auto lengte =
         static_cast<::socklen_t>(offsetof(::sockaddr_un, sun_path) + 1 + naam.size());
     // The system's own interface: an address of any family is passed as the general one.
