@@ -1,5 +1,4 @@
 // The program: the Qt application and its one main window.
-#include <QApplication>
 #include <QDir>
 #include <QScreen>
 
@@ -13,11 +12,12 @@
 #include "ui/pictogram.h"
 #include "ui/stijl.h"
 #include "ui/taal.h"
+#include "ui/toepassing.h"
 #include "ui/voorgrond.h"
 
 int main(int argc, char** argv) {
     using namespace lauwerkrans;
-    QApplication toepassing(argc, argv);
+    Toepassing toepassing(argc, argv);
     ZetStijl(toepassing, HoogContrast());
     ZetTaal(toepassing);
     QApplication::setWindowIcon(Pictogram());
@@ -30,6 +30,7 @@ int main(int argc, char** argv) {
         QWidget* voorop = voorgrond.venster();
         ToonMelding(voorop != nullptr ? voorop : hoofdvenster, melding);
     };
+    toepassing.zetMelder(algemeen.meld);
 
     const systeem::EnigeKopie enigeKopie("lauwerkrans");
     if (!MagStarten(enigeKopie, algemeen.meld)) return 0;
@@ -41,7 +42,9 @@ int main(int argc, char** argv) {
                        }});
     frmMain venster(algemeen, instellingen, MaakKoppeling(instellingen, uitvoer));
 
-    if (!Form_Load(venster, algemeen, instellingen, map)) return 1;
+    bool geladen = true;
+    venster.bewaak([&] { geladen = Form_Load(venster, algemeen, instellingen, map); });
+    if (!geladen) return 1;
     hoofdvenster = &venster; // until now messages stand in the middle of the screen
     const QRect vrij = venster.screen()->availableGeometry();
     std::optional<KleinScherm> kleinScherm;

@@ -20,11 +20,9 @@ if(LAUWERKRANS_SANITIZERS)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# On Windows every program may be laid at any address and runs no data (the linker's options of the
-# toolchain); here the marks for the processor's own control of jumps, and guards on the stack.
+include(${CMAKE_CURRENT_LIST_DIR}/Hardening.cmake)
+
 if(WIN32)
-  target_compile_options(lauwerkrans_opties INTERFACE -fcf-protection=full -fstack-protector-strong)
-  target_link_libraries(lauwerkrans_opties INTERFACE -l:libssp.a) # the guards; no DLL of its own
   target_compile_definitions(lauwerkrans_opties INTERFACE
     UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)
 endif()

@@ -11,13 +11,16 @@ namespace lauwerkrans {
 
 namespace {
 
-constexpr std::array<std::pair<std::errc, const char*>, 9> redenen = {{
+constexpr std::array<std::pair<std::errc, const char*>, 12> redenen = {{
     {std::errc::no_such_file_or_directory, "het bestand bestaat niet"},
     {std::errc::not_a_directory, "de map bestaat niet"},
     {std::errc::permission_denied, "geen toegang"},
+    {std::errc::operation_not_permitted, "geen toegang"},
     {std::errc::device_or_resource_busy, "een ander programma gebruikt het bestand"},
     {std::errc::is_a_directory, "er staat een map met die naam"},
+    {std::errc::file_exists, "er staat iets anders met die naam"},
     {std::errc::no_space_on_device, "de schijf is vol"},
+    {std::errc::file_too_large, "het bestand is te groot"},
     {std::errc::read_only_file_system, "de schijf is alleen te lezen"},
     {std::errc::io_error, "leesfout op de schijf"},
     {std::errc::filename_too_long, "de naam is te lang"},

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
+#include <cstring>
 #include <iterator>
 #include <memory>
 
@@ -54,10 +55,12 @@ private:
     int greep_;
 };
 
-/// Writes a new file wholly and onto the disk.
+/// Writes a new file wholly and onto the disk. What an earlier time left half there is taken away
+/// first; a link of that name is not followed.
 std::error_code SchrijfEnSpoel(const std::string& pad, std::string_view bytes) {
-    constexpr int vlaggen = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC;
+    constexpr int vlaggen = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
     constexpr ::mode_t rechten = 0666; // less the user's own mask
+    ::unlink(pad.c_str());
     const Bestandsgreep greep(::open(pad.c_str(), vlaggen, rechten));
     if (!greep.open()) return LaatsteFout();
     while (!bytes.empty()) {
@@ -153,7 +156,7 @@ EnigeKopie::EnigeKopie(const std::string& programma)
     ::sockaddr_un adres{};
     adres.sun_family = AF_UNIX;
     const std::string naam = programma.substr(0, 80) + "-" + std::to_string(::getuid());
-    std::copy(naam.begin(), naam.end(), std::begin(adres.sun_path) + 1);
+    std::memcpy(std::begin(adres.sun_path) + 1, naam.data(), naam.size());
     const auto lengte =
         static_cast<::socklen_t>(offsetof(::sockaddr_un, sun_path) + 1 + naam.size());
     // The system's own interface: an address of any family is passed as the general one.

@@ -38,6 +38,7 @@ pakketten_beelden=(
 # shellcheck disable=SC2034
 pakketten_toetsen=(
   poppler-utils   # reads the printed pages back: texts and their places
+  strace          # says which files the program touches
 )
 
 # What hears the program as a screen reader does (tools/toegankelijkheid.sh).

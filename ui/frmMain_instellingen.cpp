@@ -36,8 +36,15 @@ IniStand frmMain::stand() {
     return stand;
 }
 
+/// The heading is one line of the settings and of the lists. A text that was pasted may hold line
+/// ends and tabs; the box shows them as blanks, and blanks they become.
 void frmMain::neemKopTekstOver() {
-    instellingen_.KopTekst = Vind<QLineEdit>(*this, "txtKop1")->text().toStdString();
+    QString kop = Vind<QLineEdit>(*this, "txtKop1")->text();
+    kop.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    for (QChar& teken : kop) {
+        if (teken < QLatin1Char(' ')) teken = QLatin1Char(' ');
+    }
+    instellingen_.KopTekst = kop.toStdString();
 }
 
 void frmMain::toonKopTekst() {

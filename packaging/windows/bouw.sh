@@ -25,6 +25,16 @@ bouw() {
   cmake --build --preset windows --target Lauwerkrans kern_tests gui_tests maak_competitie handleiding
 }
 
+# The guards on the stack and the checked copies are linked in; a stripped program no longer names
+# them.
+controleer_wachters() {
+  local naam namen
+  namen=$(x86_64-w64-mingw32-nm "$uit/Lauwerkrans/Lauwerkrans.exe")
+  for naam in __stack_chk_fail __memcpy_chk; do
+    grep -qw "$naam" <<<"$namen" || { echo "Lauwerkrans.exe heeft geen $naam" >&2; return 1; }
+  done
+}
+
 test_alles() {
   local proef
   for proef in kern_tests gui_tests; do
@@ -107,6 +117,7 @@ qt=$("$hier/bouw_qt.sh")
 qt_versie=$(sed -nE 's/^Version: //p' "$qt"/bron/*.dsc | head -n 1)
 versie=$(versie_van_programma)
 bouw
+controleer_wachters
 trap eind_wine EXIT
 begin_wine "$uit/wine" "$qt/bin" "$gcc_dlls" "$thread_dlls"
 export WINEQT_PLUGIN_PATH

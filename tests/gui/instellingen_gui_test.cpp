@@ -6,11 +6,10 @@
 
 #include <QListWidget>
 
-#ifndef _WIN32
-#include <sys/fsuid.h>
-#endif
-
 #include "data/systeem.h"
+#ifndef _WIN32
+#include "kern/schrijfproef_posix.h"
+#endif
 #include "vensterproef.h"
 
 namespace lauwerkrans::proef {
@@ -144,30 +143,6 @@ TEST_F(InstellingenVenster, AFileThatIsOpenElsewhereIsReportedOnceAndTheProgramE
     EXPECT_FALSE(proef.venster->isVisible());
 }
 #else
-/// While it lives the user may not write, the administrator neither.
-class ZonderRechten {
-public:
-    explicit ZonderRechten(std::filesystem::path map) : map_(std::move(map)) {
-        namespace fs = std::filesystem;
-        fs::permissions(map_, fs::perms::owner_write, fs::perm_options::remove);
-        constexpr unsigned niemand = 65534;
-        gebruiker_ = static_cast<unsigned>(::setfsuid(niemand)); // without effect for a plain user
-    }
-    ZonderRechten(const ZonderRechten&) = delete;
-    ZonderRechten(ZonderRechten&&) = delete;
-    ZonderRechten& operator=(const ZonderRechten&) = delete;
-    ZonderRechten& operator=(ZonderRechten&&) = delete;
-    ~ZonderRechten() {
-        ::setfsuid(gebruiker_);
-        std::filesystem::permissions(map_, std::filesystem::perms::owner_write,
-                                     std::filesystem::perm_options::add);
-    }
-
-private:
-    std::filesystem::path map_;
-    unsigned gebruiker_;
-};
-
 TEST_F(InstellingenVenster, AFolderThatIsReadOnlyIsReportedOnceAndTheOldFileStays) {
     schrijfIni("__TXT1=13\r\n");
     proef.start();
@@ -181,6 +156,23 @@ TEST_F(InstellingenVenster, AFolderThatIsReadOnlyIsReportedOnceAndTheOldFileStay
               (Melding{"Het bestand '" + proef.competitie.map().pad() +
                            "/Lauwerkrans/Lauwr.ini' kan niet worden geschreven: geen toegang.",
                        Icoon::Uitroep}));
+    EXPECT_FALSE(proef.venster->isVisible());
+    EXPECT_EQ(ini(), "__TXT1=13\r\n");
+}
+
+TEST_F(InstellingenVenster, AFileThatCannotGrowIsReportedOnceAndTheOldOneStays) {
+    schrijfIni("__TXT1=13\r\n");
+    proef.start();
+    {
+        const KleineBestanden klein(40);
+        proef.klik("cmdEinde");
+    }
+    EXPECT_EQ(proef.competitie.meldingen.getoond,
+              (std::vector<Melding>{
+                  {"Het bestand '" + proef.competitie.map().pad() +
+                       "/Lauwerkrans/Lauwr.ini' kan niet worden geschreven: het bestand is te "
+                       "groot.",
+                   Icoon::Uitroep}}));
     EXPECT_FALSE(proef.venster->isVisible());
     EXPECT_EQ(ini(), "__TXT1=13\r\n");
 }

@@ -180,6 +180,9 @@ TEST(Reden, IsDutchForUsualErrors) {
     EXPECT_EQ(Reden(make_error_code(errc::read_only_file_system)), "de schijf is alleen te lezen");
     EXPECT_EQ(Reden(make_error_code(errc::io_error)), "leesfout op de schijf");
     EXPECT_EQ(Reden(make_error_code(errc::filename_too_long)), "de naam is te lang");
+    EXPECT_EQ(Reden(make_error_code(errc::operation_not_permitted)), "geen toegang");
+    EXPECT_EQ(Reden(make_error_code(errc::file_too_large)), "het bestand is te groot");
+    EXPECT_EQ(Reden(make_error_code(errc::file_exists)), "er staat iets anders met die naam");
 }
 
 TEST(Reden, IsInTheWordsOfTheSystemForOthers) {

@@ -8,11 +8,11 @@
 #include <iterator>
 
 #include <csignal>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "proef.h"
+#include "schrijfproef_posix.h"
 
 namespace lauwerkrans {
 namespace {
@@ -22,24 +22,46 @@ std::string Inhoud(const std::filesystem::path& pad) {
     return {std::istreambuf_iterator<char>(bestand), {}};
 }
 
-/// Runs in a process of its own, whose files may hold 1000 bytes: a full disk.
-int SchrijfOpVolleSchijf(const std::string& pad) {
-    const ::rlimit grens{1000, 1000};
-    ::setrlimit(RLIMIT_FSIZE, &grens);
-    std::signal(SIGXFSZ, SIG_IGN);
-    return systeem::VervangBestand(pad, std::string(5000, 'x')) ? 0 : 1;
-}
-
-TEST(VervangBestand, AFullDiskLeavesTheOldFileWhole) {
+TEST(VervangBestand, AFileThatCannotGrowLeavesTheOldOneWhole) {
     const proef::Proefmap map;
     map.schrijf("lijst", "oud");
-    const pid_t kind = ::fork();
-    if (kind == 0) ::_exit(SchrijfOpVolleSchijf(map.pad() + "/lijst"));
-    int stand = 0;
-    ASSERT_EQ(::waitpid(kind, &stand, 0), kind);
-    EXPECT_TRUE(WIFEXITED(stand) && WEXITSTATUS(stand) == 0);
-    EXPECT_EQ(Inhoud(map.map() / "lijst"), "oud");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(map.map()), {}), 1);
+    {
+        const proef::KleineBestanden klein(1000);
+        EXPECT_EQ(systeem::VervangBestand(map.pad() + "/lijst", std::string(5000, 'x')),
+                  std::errc::file_too_large);
+    }
+    EXPECT_EQ(map.inhoud(), (std::map<std::string, std::string>{{"lijst", "oud"}}));
+}
+
+TEST(VervangBestand, WritesThroughNoLinkThatStandsInTheWay) {
+    const proef::Proefmap map;
+    map.schrijf("ander", "van een ander");
+    std::filesystem::create_symlink(map.map() / "ander", map.map() / "lijst.nieuw");
+    std::filesystem::create_symlink(map.map() / "ander", map.map() / "lijst");
+    EXPECT_FALSE(systeem::VervangBestand(map.pad() + "/lijst", "nieuw"));
+    EXPECT_EQ(map.inhoud(),
+              (std::map<std::string, std::string>{{"ander", "van een ander"}, {"lijst", "nieuw"}}));
+    EXPECT_FALSE(std::filesystem::is_symlink(map.map() / "lijst"));
+}
+
+TEST(VervangBestand, PassesOverAPartThatNobodyMayWrite) {
+    const proef::Proefmap map;
+    map.schrijf("lijst.nieuw", "half");
+    std::filesystem::permissions(map.map(), std::filesystem::perms::all);
+    {
+        const proef::ZonderRechten zonder(map.map() / "lijst.nieuw");
+        EXPECT_FALSE(systeem::VervangBestand(map.pad() + "/lijst", "nieuw"));
+    }
+    EXPECT_EQ(map.inhoud(), (std::map<std::string, std::string>{{"lijst", "nieuw"}}));
+}
+
+TEST(VervangBestand, PutsNothingInPlaceOfAFolder) {
+    const proef::Proefmap map;
+    map.schrijf("lijst/x", "x");
+    EXPECT_EQ(systeem::VervangBestand(map.pad() + "/lijst", "nieuw"), std::errc::is_a_directory);
+    map.maakMap("ander.nieuw");
+    EXPECT_EQ(systeem::VervangBestand(map.pad() + "/ander", "nieuw"), std::errc::file_exists);
+    EXPECT_EQ(map.inhoud(), (std::map<std::string, std::string>{{"lijst/x", "x"}}));
 }
 
 TEST(VervangBestand, AKillAtAnyMomentLeavesTheOldFileOrTheNewOne) {
