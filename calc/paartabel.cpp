@@ -79,8 +79,8 @@ ZittingCel MaakCel(const ZitRegels& zitRegels, const ZitRegel& regel, const Rond
 
 /// Puts a pair's cells in column order and leaves only the last row of each session.
 void Orden(PaarRij& paar, std::vector<ZittingCel>& cellen) {
-    const auto begin = cellen.begin() + static_cast<std::ptrdiff_t>(paar.eersteCel);
-    const auto einde = begin + static_cast<std::ptrdiff_t>(paar.aantalCellen);
+    const auto begin = cellen.begin() + paar.eersteCel;
+    const auto einde = begin + paar.aantalCellen;
     const auto nietVerder = [](const auto& a, const auto& b) { return a.kolom >= b.kolom; };
     if (std::adjacent_find(begin, einde, nietVerder) == einde) return; // as the files are read
     std::stable_sort(begin, einde, [](const auto& a, const auto& b) { return a.kolom < b.kolom; });
@@ -89,7 +89,7 @@ void Orden(PaarRij& paar, std::vector<ZittingCel>& cellen) {
         if (cel != begin && uit->kolom != cel->kolom) ++uit;
         *uit = *cel;
     }
-    paar.aantalCellen = static_cast<std::size_t>(uit - begin) + 1;
+    paar.aantalCellen = static_cast<std::uint32_t>(uit - begin) + 1;
 }
 
 } // namespace
