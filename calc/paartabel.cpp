@@ -27,6 +27,9 @@ struct Indeling {
 Indeling DeelIn(const ZitRegels& zitRegels, bool alleLijnen, std::vector<PaarRij>& paren) {
     PaarIndex index;
     Indeling indeling;
+    // Every row may be a pair of its own. Room that stays empty is no memory.
+    paren.reserve(zitRegels.gevuld());
+    indeling.aantallen.reserve(zitRegels.gevuld());
     indeling.paarVanRegel.reserve(zitRegels.gevuld());
     for (const ZitRegel& regel : zitRegels.regels()) {
         const std::uint32_t nummer = index.nummer(Sleutel(regel, alleLijnen));
@@ -47,6 +50,7 @@ Indeling DeelIn(const ZitRegels& zitRegels, bool alleLijnen, std::vector<PaarRij
 /// Gives every pair its slice of the cells; returns where each slice begins.
 std::vector<std::uint32_t> VerdeelRuimte(const Indeling& indeling, std::vector<PaarRij>& paren) {
     std::vector<std::uint32_t> begin;
+    begin.reserve(paren.size());
     std::uint32_t volgende = 0;
     for (std::size_t i = 0; i < paren.size(); ++i) {
         begin.push_back(volgende);
