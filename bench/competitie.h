@@ -25,6 +25,8 @@ inline constexpr Maat club = {"club", 5, 5, 36, 80, 3, true};
 inline constexpr Maat groot = {"groot", 30, 33, 80, 400, 5, true};
 inline constexpr Maat grootst = {"grootst", 99, 99, 160, 1000, 8, true};
 inline constexpr Maat achtduizend = {"8000 paren", 99, 99, 60, 128, 1, false};
+/// So many of the 99 rounds of the largest: about as many percent of its files and rows.
+constexpr Maat Deel(int ronden) { return {"deel", ronden, 99, 160, 1000, 8, true}; }
 inline constexpr Maat losseParen = {"losse paren", 99, 99, 160, 1000, 8, false};
 
 class Competitie {

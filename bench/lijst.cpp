@@ -16,7 +16,7 @@ Uitvoer MaakLijst(std::size_t paren) {
         rij.lid2 = rij.lid1 + 1;
         rij.zittingen = 14;
         rij.gemiddelde = static_cast<std::int32_t>(70'000 - i);
-        rij.rang = i % perLijn + 1;
+        rij.rang = static_cast<std::uint32_t>(i % perLijn + 1);
         rij.lijn = static_cast<char>('A' + i / perLijn % letters);
         const std::string nummer = std::to_string(i);
         if (!leden->zet(rij.lid1, "Annemarie van den Berg " + nummer) ||

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <limits>
-#include <tuple>
 #include <utility>
 
 #include "calc/paartabel.h"
@@ -90,39 +89,53 @@ std::int32_t Gemiddelde(const PaarTabel& tabel, const PaarRij& paar, const Leden
     return static_cast<std::int32_t>(PercNaarDuizendsten(GemiddeldeTekst(gemiddelde)));
 }
 
-/// Counts, tests against the minimum and averages. Returns the ranked pairs in the order in which
-/// they first appear; `bovengrens` becomes their number plus that of the pairs without a counted
-/// session that a minimum of 0 keeps.
-std::vector<PaarRij> Deelnemers(PaarTabel& tabel, const Minima& minima, const LedenNamen& leden,
-                                bool gewogen, std::size_t& bovengrens) {
-    std::vector<PaarRij> deelnemers;
-    bovengrens = 0;
+/// Counts, tests against the minimum and averages. Leaves the ranked pairs, in the order in which
+/// they first appear; returns their number plus that of the pairs without a counted session that a
+/// minimum of 0 keeps.
+std::size_t KiesDeelnemers(PaarTabel& tabel, const Minima& minima, const LedenNamen& leden,
+                           bool gewogen) {
+    std::size_t bovengrens = 0;
+    auto volgende = tabel.paren.begin();
     for (PaarRij& paar : tabel.paren) {
         paar.zittingen = TelZittingen(tabel, paar);
         if (paar.zittingen < minima.at(static_cast<unsigned char>(paar.lijn))) continue;
         ++bovengrens;
         if (paar.zittingen == 0) continue;
         paar.gemiddelde = Gemiddelde(tabel, paar, leden, gewogen);
-        deelnemers.push_back(paar);
+        *volgende++ = paar;
     }
-    return deelnemers;
+    tabel.paren.erase(volgende, tabel.paren.end());
+    return bovengrens;
 }
 
 /// Per line: line, then average downwards. Over all lines: average downwards, then line. Equal
 /// pairs keep the order of their first appearance.
-void Sorteer(std::vector<PaarRij>& paren, bool alleLijnen) {
-    std::stable_sort(paren.begin(), paren.end(), [=](const PaarRij& a, const PaarRij& b) {
-        return alleLijnen ? std::pair(-a.gemiddelde, a.lijn) < std::pair(-b.gemiddelde, b.lijn)
-                          : std::pair(a.lijn, -a.gemiddelde) < std::pair(b.lijn, -b.gemiddelde);
-    });
+std::vector<PaarRij> Gesorteerd(const std::vector<PaarRij>& paren, bool alleLijnen) {
+    // All in one number, which sorts far quicker than the rows: a line takes 8 bits, an average
+    // (0 to 100,000) 24 and the place 32.
+    std::vector<std::uint64_t> sleutels;
+    sleutels.reserve(paren.size());
+    for (const PaarRij& paar : paren) {
+        const std::uint64_t lijn = static_cast<unsigned char>(paar.lijn);
+        const std::uint64_t laagte = 0xFFFFFFU - static_cast<std::uint32_t>(paar.gemiddelde);
+        const std::uint64_t eerst = alleLijnen ? laagte << 8U | lijn : lijn << 24U | laagte;
+        sleutels.push_back(eerst << 32U | sleutels.size());
+    }
+    std::sort(sleutels.begin(), sleutels.end());
+    std::vector<PaarRij> gesorteerd;
+    gesorteerd.reserve(paren.size());
+    for (const std::uint64_t sleutel : sleutels)
+        gesorteerd.push_back(paren[sleutel & 0xFFFFFFFFU]);
+    return gesorteerd;
 }
 
 /// Ranks the rows that pass, as one group.
 template <class Past>
 void Rangschik(std::vector<PaarRij>& rijen, Past past) {
     RangTabel rangTabel;
+    std::uint32_t rang = 0;
     for (const PaarRij& rij : rijen) {
-        if (past(rij)) rangTabel.push_back({rangTabel.size() + 1, rij.gemiddelde, false});
+        if (past(rij)) rangTabel.push_back({++rang, rij.gemiddelde, false});
     }
     MarkeerGelijken(rangTabel);
     auto bron = rangTabel.begin();
@@ -154,10 +167,9 @@ ResultaatTabel BerekenKampioenen(const ZitRegels& zitRegels, const RondeInfo& ro
     ResultaatTabel resultaat;
     resultaat.zittingen = rondeInfo.totaal();
     resultaat.leden = zitRegels.gedeeldeLeden();
-    resultaat.rijen =
-        Deelnemers(tabel, minima, zitRegels.leden(), opties.gewogen, resultaat.bovengrens);
+    resultaat.bovengrens = KiesDeelnemers(tabel, minima, zitRegels.leden(), opties.gewogen);
+    resultaat.rijen = Gesorteerd(tabel.paren, opties.gemAlleLijnen);
     resultaat.cellen = std::move(tabel.cellen);
-    Sorteer(resultaat.rijen, opties.gemAlleLijnen);
     if (opties.gemAlleLijnen) {
         RangAlleLijnen(resultaat);
     } else {

@@ -39,7 +39,7 @@ void RangAlleLijnen(ResultaatTabel& resultaat);
 
 /// `RangTabel`: rank and average of the pairs that are ranked at once, in order.
 struct RangRij {
-    std::size_t rang = 0;
+    std::uint32_t rang = 0;
     std::int32_t gemiddelde = 0; // thousandths: equal exactly when the three-decimal texts are
     bool gelijk = false;
 };

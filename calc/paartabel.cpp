@@ -27,6 +27,9 @@ struct Indeling {
 Indeling DeelIn(const ZitRegels& zitRegels, bool alleLijnen, std::vector<PaarRij>& paren) {
     PaarIndex index;
     Indeling indeling;
+    // Every row may be a pair of its own. Room that stays empty is no memory.
+    paren.reserve(zitRegels.gevuld());
+    indeling.aantallen.reserve(zitRegels.gevuld());
     indeling.paarVanRegel.reserve(zitRegels.gevuld());
     for (const ZitRegel& regel : zitRegels.regels()) {
         const std::uint32_t nummer = index.nummer(Sleutel(regel, alleLijnen));
@@ -47,6 +50,7 @@ Indeling DeelIn(const ZitRegels& zitRegels, bool alleLijnen, std::vector<PaarRij
 /// Gives every pair its slice of the cells; returns where each slice begins.
 std::vector<std::uint32_t> VerdeelRuimte(const Indeling& indeling, std::vector<PaarRij>& paren) {
     std::vector<std::uint32_t> begin;
+    begin.reserve(paren.size());
     std::uint32_t volgende = 0;
     for (std::size_t i = 0; i < paren.size(); ++i) {
         begin.push_back(volgende);
@@ -79,8 +83,8 @@ ZittingCel MaakCel(const ZitRegels& zitRegels, const ZitRegel& regel, const Rond
 
 /// Puts a pair's cells in column order and leaves only the last row of each session.
 void Orden(PaarRij& paar, std::vector<ZittingCel>& cellen) {
-    const auto begin = cellen.begin() + static_cast<std::ptrdiff_t>(paar.eersteCel);
-    const auto einde = begin + static_cast<std::ptrdiff_t>(paar.aantalCellen);
+    const auto begin = cellen.begin() + paar.eersteCel;
+    const auto einde = begin + paar.aantalCellen;
     const auto nietVerder = [](const auto& a, const auto& b) { return a.kolom >= b.kolom; };
     if (std::adjacent_find(begin, einde, nietVerder) == einde) return; // as the files are read
     std::stable_sort(begin, einde, [](const auto& a, const auto& b) { return a.kolom < b.kolom; });
@@ -89,7 +93,7 @@ void Orden(PaarRij& paar, std::vector<ZittingCel>& cellen) {
         if (cel != begin && uit->kolom != cel->kolom) ++uit;
         *uit = *cel;
     }
-    paar.aantalCellen = static_cast<std::size_t>(uit - begin) + 1;
+    paar.aantalCellen = static_cast<std::uint32_t>(uit - begin) + 1;
 }
 
 } // namespace

@@ -34,11 +34,11 @@ struct ZittingCel {
 struct PaarRij {
     std::uint32_t lid1 = 0; // in the order of the key: the lower number first
     std::uint32_t lid2 = 0;
-    std::size_t eersteCel = 0;
-    std::size_t aantalCellen = 0;
+    std::uint32_t eersteCel = 0;
+    std::uint32_t aantalCellen = 0;
     std::int32_t zittingen = 0;  // counted sessions
     std::int32_t gemiddelde = 0; // thousandths of a percent
-    std::size_t rang = 0;        // 1, 2, ...; of the first pair of the group in a tie
+    std::uint32_t rang = 0;      // 1, 2, ...; of the first pair of the group in a tie
     bool gelijk = false;         // part of a tie
     char lijn = ' ';
 };

@@ -10,7 +10,6 @@
 #include "data/lijstformaat.h"
 #include "data/modORV_compdata.h"
 #include "data/paarsleutel.h"
-#include "data/tekstbestand.h"
 
 namespace lauwerkrans {
 
@@ -53,9 +52,9 @@ Rij LeesCompBums(const RondeMappen& mappen) {
     Rij bumLijst;
     for (std::size_t ronde = 1; ronde <= mappen.ronden(); ++ronde) {
         const auto pad = mappen.compBums(ronde);
-        if (!pad) continue;
+        systeem::Leesbuffer buffer;
+        if (!pad || systeem::LeesBestand(*pad, buffer)) continue;
         try {
-            const systeem::Leesbuffer buffer = LeesTekst(*pad);
             LijstBestand bestand(*pad, buffer.bytes());
             for (auto& invoer : LeesRonde(bestand, ronde))
                 bumLijst.voegToe(std::move(invoer));

@@ -8,7 +8,6 @@
 #include "data/codetabel.h"
 #include "data/fout.h"
 #include "data/getallen.h"
-#include "data/modORV_compbums.h"
 #include "data/modORV_compdata.h"
 #include "data/modORV_leden.h"
 #include "data/modORV_rondedata.h"
@@ -78,10 +77,10 @@ void Laad(Algemeen& algemeen, const Opdracht& opdracht) {
     }
     algemeen.competitie = VoegPad(algemeen.CompetitieMap, algemeen.ActieveCompetitie);
     LeesCompData(algemeen);
-    BouwRondeInfo(algemeen);
     algemeen.LijnTabel = LeesLijnTabel(algemeen.competitie);
     LeesLeden(algemeen);
-    LeesCompBums(algemeen);
+    // Every other list reads the percentage files, and counts their sessions on the way.
+    if (opdracht.soort == Soort::Ronden) BouwRondeInfo(algemeen);
 }
 
 void ControleerLijn(const std::string& lijnen, const std::string& lijn) {

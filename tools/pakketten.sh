@@ -64,6 +64,14 @@ pakketten_dekking=(
   gcovr           # adds up the compiler's counts
 )
 
+# bench/meet.sh: what a handy club member would use instead, to measure beside. No test needs them.
+# shellcheck disable=SC2034
+pakketten_meten=(
+  mawk            # averages by awk
+  sqlite3         # averages by SQL
+  python3-pandas  # averages by pandas; with it the Python that makes tables and plot
+)
+
 # What .ci/run checks beyond the tests.
 # shellcheck disable=SC2034
 pakketten_ci=(

@@ -41,7 +41,7 @@ std::shared_ptr<Uitslag> MaakUitslag(const std::string& lijnen, const Criteria& 
             throw std::out_of_range("MaakUitslag");
         rij.zittingen = paar.zittingen;
         rij.gemiddelde = paar.gemiddelde;
-        rij.rang = paar.rang;
+        rij.rang = static_cast<std::uint32_t>(paar.rang);
         rij.gelijk = paar.gelijk;
         rij.lijn = paar.lijn;
         uitslag->resultaat.rijen.push_back(rij);
