@@ -8,6 +8,7 @@
 #include "berichtteksten.h"
 #include "calc/lijnen.h"
 #include "data/fout.h"
+#include "data/modORV_rondedata.h"
 #include "gegevens.h"
 #include "markdown.h"
 #include "output/bladindeling.h"
@@ -61,6 +62,8 @@ Makers AlleMakers() {
     return {{"FoutTekst", {}}, // its kinds are looked at one by one
             {"TeVeelBladenTekst", {EenRegel(TeVeelBladenTekst())}},
             {"TeHoogTekst", {Vervang(TeHoogTekst("21", "…"), "21", "…")}},
+            {"RondeDataFout",
+             {Vervang(RondeDataFout("…").tekst, PadInMelding(RondeDataPad("…")), "…")}},
             {"NietTeMaken", {NietTeMaken("…").tekst}}};
 }
 

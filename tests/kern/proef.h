@@ -40,6 +40,9 @@ public:
     /// Makes a folder, or what passes for one, whose names nobody can list.
     void maakOnleesbareMap(const std::string& naam) const;
 
+    /// Lets go of what was made impossible to open, so that it can be taken away.
+    void geefVrij() const { bezet_.clear(); }
+
     /// Takes a file or a folder with all that is in it away.
     void verwijder(const std::string& naam) const;
 

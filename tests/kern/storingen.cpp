@@ -137,6 +137,7 @@ std::vector<std::string> Bestandsnamen() {
 }
 
 void Suite::legAan() const {
+    map_.geefVrij();
     for (const char* deel : {"Competities", "Lauwerkrans", "ORVspelers", "Mappen.ini"})
         map_.verwijder(deel);
     for (const auto& [pad, bytes] : andere)

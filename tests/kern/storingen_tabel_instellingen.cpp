@@ -40,7 +40,12 @@ std::vector<Storing> StoringenVanMappen() {
 std::vector<Storing> StoringenVanLauwr() {
     auto rijen = Gewone(zonderCriteria, zonderCriteria, zonderCriteria);
     // What stands in the way of the settings is said when they are written.
+    const bool bezet = onleesbaarFout == std::errc::device_or_resource_busy;
     for (Storing& rij : rijen) {
+        if (rij.naam == onleesbaar && bezet) {
+            rij.verwacht.einde = {"Het bestand '<map>/Lauwerkrans/Lauwr.ini' kan niet worden "
+                                  "geschreven: <reden>."};
+        }
         if (rij.naam == "a folder of that name") {
             rij.verwacht.einde = {"Het bestand '<map>/Lauwerkrans/Lauwr.ini' kan niet worden "
                                   "geschreven: er staat een map met die naam."};

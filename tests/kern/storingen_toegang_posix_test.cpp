@@ -62,15 +62,21 @@ std::string Verslag(const Suite& suite) {
     return uit.str();
 }
 
+/// The messages of a start and a calculation.
+std::vector<std::string> Berichten(const Verwacht& verwacht) {
+    std::vector<std::string> berichten = verwacht.start;
+    berichten.insert(berichten.end(), verwacht.bereken.begin(), verwacht.bereken.end());
+    for (std::string& bericht : berichten) {
+        const auto plaats = bericht.find("<reden>");
+        if (plaats != std::string::npos) bericht.replace(plaats, 7, "geen toegang");
+    }
+    return berichten;
+}
+
 std::string Hoort(const Verwacht& verwacht) {
     std::string tekst;
-    for (const auto* deel : {&verwacht.start, &verwacht.bereken}) {
-        for (std::string bericht : *deel) {
-            const auto plaats = bericht.find("<reden>");
-            if (plaats != std::string::npos) bericht.replace(plaats, 7, "geen toegang");
-            tekst += bericht + "\n";
-        }
-    }
+    for (const std::string& bericht : Berichten(verwacht))
+        tekst += bericht + "\n";
     return tekst + verwacht.lijst;
 }
 
@@ -90,10 +96,8 @@ TEST_P(Toegang, ThatIsMissingIsSaidWithTheReason) {
         EXPECT_EQ(UitKind(alsNiemand), Hoort(storing.verwacht));
         Waarneming gezien;
         gezien.invoer = 1;
-        for (const auto* deel : {&storing.verwacht.start, &storing.verwacht.bereken}) {
-            for (const std::string& bericht : *deel)
-                ++gezien.teksten[bericht];
-        }
+        for (const std::string& bericht : Berichten(storing.verwacht))
+            ++gezien.teksten[bericht];
         DrukAf(bestand.naam, "no permission", gezien);
     }
     ASSERT_EQ(::chmod(pad.c_str(), S_IRWXU), 0);
