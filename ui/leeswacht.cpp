@@ -87,7 +87,7 @@ void Leeswacht::bewaak(const std::function<void()>& lezing) {
 bool Leeswacht::isTijd() const { return klok_() >= volgende_; }
 
 void Leeswacht::toon(std::size_t gelezen, std::size_t totaal) {
-    if (!getoondIn_) begin();
+    if (getoondIn_.isNull()) begin();
     getoondIn_->setWindowTitle(QStringLiteral("%1 - %2 van %3 zittingen gelezen")
                                    .arg(QLatin1String(programmaNaam))
                                    .arg(gelezen)
@@ -104,7 +104,7 @@ void Leeswacht::begin() {
 }
 
 void Leeswacht::eindig() {
-    if (getoondIn_) {
+    if (!getoondIn_.isNull()) {
         // What was typed and clicked meanwhile comes in now, and goes no further than the filter.
         QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers);
         QCoreApplication::instance()->removeEventFilter(this);
@@ -129,7 +129,7 @@ bool Leeswacht::eventFilter(QObject* object, QEvent* gebeurtenis) {
     if (gebeurtenis->type() == QEvent::Close) {
         gebeurtenis->ignore();
         daarna([venster = QPointer<QObject>(object)] {
-            if (venster) Sluit(venster);
+            if (!venster.isNull()) Sluit(venster);
         });
         return true;
     }
