@@ -2,7 +2,6 @@
 # no data that runs, no table of calls that can be overwritten. Built files are checked by
 # tools/controleer_hardheid.sh and packaging/windows/controleer_pakket.sh.
 include(CheckCXXCompilerFlag)
-include(CheckPIESupported)
 
 target_compile_options(lauwerkrans_opties INTERFACE
   -fstack-protector-strong -Wformat -Wformat-security)
@@ -25,6 +24,8 @@ if(WIN32)
   # hold for every image. The guards on the stack and the checked copies come without a DLL.
   target_link_libraries(lauwerkrans_opties INTERFACE -l:libssp.a)
 else()
-  check_pie_supported()
-  target_link_options(lauwerkrans_opties INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)
+  # Not -fPIE, which CMake would give the linker too: with optimisation at link time the program then
+  # has copies of its own of Qt's objects, and dies in the first signal of the application.
+  target_link_options(lauwerkrans_opties INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack
+    $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>)
 endif()
