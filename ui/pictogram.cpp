@@ -1,8 +1,10 @@
 #include "ui/pictogram.h"
 
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -51,6 +53,28 @@ void TekenTak(QPainter& schilder, int bladeren, double dikte) {
     }
 }
 
+/// Draws a size when it is asked for: at the start no more than the system wants.
+class Kransmachine : public QIconEngine {
+public:
+    void paint(QPainter* schilder, const QRect& vak, QIcon::Mode /*stand*/,
+               QIcon::State /*toestand*/) override {
+        schilder->drawPixmap(vak, Krans(vak.width()));
+    }
+
+    QPixmap pixmap(const QSize& maat, QIcon::Mode /*stand*/, QIcon::State /*toestand*/) override {
+        return Krans(std::min(maat.width(), maat.height()));
+    }
+
+    QList<QSize> availableSizes(QIcon::Mode /*stand*/, QIcon::State /*toestand*/) override {
+        QList<QSize> maten;
+        for (const int pixels : {16, 20, 24, 32, 40, 48, 64, 96, 128, 256})
+            maten.append({pixels, pixels});
+        return maten;
+    }
+
+    [[nodiscard]] QIconEngine* clone() const override { return new Kransmachine(*this); }
+};
+
 } // namespace
 
 QPixmap Krans(int pixels) {
@@ -75,12 +99,6 @@ QPixmap Krans(int pixels) {
     return beeld;
 }
 
-QIcon Pictogram() {
-    QIcon pictogram;
-    for (const int pixels : {16, 20, 24, 32, 40, 48, 64, 96, 128, 256}) {
-        pictogram.addPixmap(Krans(pixels));
-    }
-    return pictogram;
-}
+QIcon Pictogram() { return QIcon(new Kransmachine); }
 
 } // namespace lauwerkrans
