@@ -11,7 +11,7 @@ namespace lauwerkrans {
 
 namespace {
 
-constexpr std::array<std::pair<std::errc, const char*>, 12> redenen = {{
+constexpr std::array<std::pair<std::errc, const char*>, 13> redenen = {{
     {std::errc::no_such_file_or_directory, "het bestand bestaat niet"},
     {std::errc::not_a_directory, "de map bestaat niet"},
     {std::errc::permission_denied, "geen toegang"},
@@ -24,6 +24,7 @@ constexpr std::array<std::pair<std::errc, const char*>, 12> redenen = {{
     {std::errc::read_only_file_system, "de schijf is alleen te lezen"},
     {std::errc::io_error, "leesfout op de schijf"},
     {std::errc::filename_too_long, "de naam is te lang"},
+    {std::errc::too_many_symbolic_link_levels, "de naam verwijst naar zichzelf"},
 }};
 
 /// Whether a byte goes on with the character of the one before it (UTF-8).

@@ -183,10 +183,12 @@ TEST(Reden, IsDutchForUsualErrors) {
     EXPECT_EQ(Reden(make_error_code(errc::operation_not_permitted)), "geen toegang");
     EXPECT_EQ(Reden(make_error_code(errc::file_too_large)), "het bestand is te groot");
     EXPECT_EQ(Reden(make_error_code(errc::file_exists)), "er staat iets anders met die naam");
+    EXPECT_EQ(Reden(make_error_code(errc::too_many_symbolic_link_levels)),
+              "de naam verwijst naar zichzelf");
 }
 
 TEST(Reden, IsInTheWordsOfTheSystemForOthers) {
-    const auto code = make_error_code(std::errc::too_many_symbolic_link_levels);
+    const auto code = make_error_code(std::errc::owner_dead);
     EXPECT_EQ(Reden(code), code.message());
     EXPECT_NE(Reden(code), "");
 }
