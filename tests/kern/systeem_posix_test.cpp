@@ -87,6 +87,14 @@ TEST(VervangBestand, AKillAtAnyMomentLeavesTheOldFileOrTheNewOne) {
 /// A name of this test process alone.
 std::string Naam() { return "lauwerkrans-proef-" + std::to_string(::getpid()); }
 
+/// What a copy in a process of its own does: says whether it may stay, and waits for its end.
+[[noreturn]] void WordKopie(const std::string& naam, int pijp) {
+    const systeem::EnigeKopie kopie(naam);
+    const char antwoord = kopie.gelukt() ? 'j' : 'n';
+    if (::write(pijp, &antwoord, 1) == 1) ::pause();
+    ::_exit(1);
+}
+
 TEST(EnigeKopie, OfTwentyStartedAtOnceOneStays) {
     constexpr int aantal = 20;
     const std::string naam = Naam();
@@ -100,11 +108,8 @@ TEST(EnigeKopie, OfTwentyStartedAtOnceOneStays) {
         if (kind != 0) continue;
         ::close(sein[1]);
         char niets = ' ';
-        static_cast<void>(::read(sein[0], &niets, 1));
-        const systeem::EnigeKopie kopie(naam);
-        const char antwoord = kopie.gelukt() ? 'j' : 'n';
-        static_cast<void>(::write(antwoorden[1], &antwoord, 1));
-        ::pause();
+        if (::read(sein[0], &niets, 1) != 0) ::_exit(1);
+        WordKopie(naam, antwoorden[1]);
     }
     ::close(sein[1]);
     int gelukt = 0;
@@ -128,12 +133,7 @@ TEST(EnigeKopie, AKilledCopyKeepsNobodyOut) {
     std::array<int, 2> pijp{};
     ASSERT_EQ(::pipe(pijp.data()), 0);
     const pid_t kind = ::fork();
-    if (kind == 0) {
-        const systeem::EnigeKopie kopie(naam);
-        const char antwoord = kopie.gelukt() ? 'j' : 'n';
-        static_cast<void>(::write(pijp[1], &antwoord, 1));
-        ::pause();
-    }
+    if (kind == 0) WordKopie(naam, pijp[1]);
     char antwoord = ' ';
     ASSERT_EQ(::read(pijp[0], &antwoord, 1), 1);
     EXPECT_EQ(antwoord, 'j');
