@@ -82,14 +82,15 @@ std::string InstellingenPad(std::string_view programmaMap) {
 void LeesInstellingen(Instellingen& instellingen, Algemeen& algemeen) {
     algemeen.LeesFout = 0;
     instellingen.IniRegels = Rij();
+    instellingen.onleesbaar.clear();
     try {
         const systeem::Leesbuffer buffer = LeesTekst(instellingen.bestand);
         Regels regels(ZonderBom(buffer.bytes()));
         while (const auto regel = regels.volgende()) {
             if (!ZonderBlanks(*regel).empty()) instellingen.IniRegels.voegToe(NaarUtf8(*regel));
         }
-    } catch (const Fout&) {
-        return; // no settings yet: the controls keep their defaults
+    } catch (const Fout& fout) { // the controls keep their defaults
+        if (fout.code != std::errc::no_such_file_or_directory) instellingen.onleesbaar = fout.code;
     }
 }
 
@@ -106,6 +107,8 @@ IniWaarden VerwerkIniVariabelen(Instellingen& instellingen, std::size_t lijnen) 
 }
 
 void SchrijfInstellingen(const Instellingen& instellingen, const IniStand& stand) {
+    if (instellingen.onleesbaar && StaatEr(instellingen.bestand))
+        GooiNietSchrijfbaar(instellingen.bestand, instellingen.onleesbaar);
     const std::string_view prefix = instellingen.InstellingPrefix;
     std::string tekst;
     const auto voegToe = [&](const std::string& inhoud) {

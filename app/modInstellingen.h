@@ -14,6 +14,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "data/modAlgemeen.h"
@@ -25,6 +26,7 @@ struct Instellingen {
     std::string bestand;            // path of the settings file
     std::string InstellingPrefix;   // stays empty
     Rij IniRegels;                  // the lines of the file as they were read
+    std::error_code onleesbaar;     // why the file that is there could not be read
     std::int16_t ToonLijnen = 0;    // the all-lines preview shows the line letter
     std::int16_t ToonZittingen = 0; // and the number of sessions
     std::string KopTekst;           // the heading of the lists
@@ -49,7 +51,8 @@ struct IniStand {
 [[nodiscard]] std::string InstellingenPad(std::string_view programmaMap);
 
 /// Reads the lines of the file that are not blank into `instellingen.IniRegels`. A missing or
-/// unreadable file leaves the list empty, without a message. Clears LeesFout.
+/// unreadable file leaves the list empty, without a message; why it was unreadable is kept. Clears
+/// LeesFout.
 void LeesInstellingen(Instellingen& instellingen, Algemeen& algemeen);
 
 /// Takes ToonLijnen, ToonZittingen and KopTekst over and returns what the lines say about the
@@ -57,7 +60,8 @@ void LeesInstellingen(Instellingen& instellingen, Algemeen& algemeen);
 /// so that a tenth line and further ones find nothing.
 [[nodiscard]] IniWaarden VerwerkIniVariabelen(Instellingen& instellingen, std::size_t lijnen);
 
-/// Writes the settings, whole or not at all. Throws Fout (BestandNietSchrijfbaar).
+/// Writes the settings, whole or not at all. Throws Fout (BestandNietSchrijfbaar), also when the
+/// file that is there could not be read at the start: what it holds would be lost.
 void SchrijfInstellingen(const Instellingen& instellingen, const IniStand& stand);
 
 /// Makes a text fit for a file name: each of \/?:*><| and the blank becomes "_".

@@ -42,20 +42,24 @@ std::string PercZitPad(const std::string& competitie, std::size_t ronde, std::si
 RondeMappen::RondeMappen(std::string competitie, std::size_t ronden)
     : competitie_(std::move(competitie)), mappen_(ronden) {
     if (ronden == 0) return;
-    const std::string map = WerkelijkPad(competitie_);
-    const auto namen = Namen(map);
-    // It was there when its data were read: a disk that is gone must not pass for no scores. A
-    // folder has itself among its names.
-    if (namen.empty()) {
-        GooiNietLeesbaar(competitie_, std::make_error_code(std::errc::not_a_directory));
-    }
+    map_ = WerkelijkPad(competitie_);
+    const auto namen = this->namen();
     for (std::size_t ronde = 1; ronde <= ronden; ++ronde) {
         const auto naam = ZoekNaam(namen, RondeNaam(ronde));
         if (!naam) continue;
         Map& deel = mappen_[ronde - 1];
-        deel.pad = VoegPad(map, *naam);
+        deel.pad = VoegPad(map_, *naam);
         deel.namen = Namen(deel.pad);
     }
+}
+
+/// What stands in the competition's folder. It was there when its data were read: a disk that is
+/// gone must not pass for no scores. A folder has itself among its names.
+std::vector<std::string> RondeMappen::namen() const {
+    auto namen = Namen(map_);
+    if (namen.empty())
+        GooiNietLeesbaar(competitie_, std::make_error_code(std::errc::not_a_directory));
+    return namen;
 }
 
 std::optional<std::string> RondeMappen::compBums(std::size_t ronde) const {

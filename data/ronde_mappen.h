@@ -35,6 +35,15 @@ public:
     /// The real path of a round's CompBums.txt; empty when the round has none.
     [[nodiscard]] std::optional<std::string> compBums(std::size_t ronde) const;
 
+    /// Throws Fout as the making does when the competition's folder is no longer there: what was
+    /// not found meanwhile may have been taken away with it.
+    void controleer() const { static_cast<void>(namen()); }
+
+    /// Whether a session has a folder; it may be without a file.
+    [[nodiscard]] bool heeftZittingMap(std::size_t ronde, std::size_t zitting) const {
+        return zittingMap(ronde, zitting).has_value();
+    }
+
     /// How many of the sessions 1 to `zittingen` of all rounds have a folder.
     [[nodiscard]] std::size_t zittingMappen(std::size_t zittingen) const;
 
@@ -52,10 +61,12 @@ private:
         std::vector<std::string> namen;
     };
 
+    [[nodiscard]] std::vector<std::string> namen() const;
     [[nodiscard]] std::optional<std::string> zittingMap(std::size_t ronde,
                                                         std::size_t zitting) const;
 
     std::string competitie_;
+    std::string map_; // where it really is
     std::vector<Map> mappen_;
 };
 

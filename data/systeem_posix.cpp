@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstddef>
 #include <cstring>
 #include <iterator>
@@ -20,6 +21,10 @@ namespace lauwerkrans::systeem {
 
 namespace {
 
+/// A file that would grow over the user's limit is an error of its writing, from the start on; by
+/// itself the system would end the program.
+const auto bijGrens = std::signal(SIGXFSZ, SIG_IGN);
+
 std::error_code LaatsteFout() { return {errno, std::generic_category()}; }
 
 /// An open file that is closed with its owner.
@@ -35,6 +40,14 @@ public:
     }
 
     [[nodiscard]] bool open() const { return greep_ >= 0; }
+    /// Why it is no file with contents of its own; a folder counts as no such file.
+    [[nodiscard]] std::error_code geenBestand() const {
+        struct ::stat gegevens {};
+        if (::fstat(greep_, &gegevens) != 0) return LaatsteFout();
+        if (S_ISREG(gegevens.st_mode)) return {};
+        return std::make_error_code(S_ISDIR(gegevens.st_mode) ? std::errc::no_such_file_or_directory
+                                                              : std::errc::file_exists);
+    }
     [[nodiscard]] ssize_t lees(char* naar, std::size_t aantal) const {
         ssize_t gelezen = -1;
         do {
@@ -77,8 +90,11 @@ constexpr std::size_t eersteRuimte = std::size_t{64} * 1024;
 
 std::error_code LeesBestand(const std::string& pad, Leesbuffer& buffer) {
     buffer.lengte = 0;
-    const Bestandsgreep greep(::open(Schrijfwijze(pad).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
+    // A pipe of that name is not waited for.
+    constexpr int vlaggen = O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
+    const Bestandsgreep greep(::open(Schrijfwijze(pad).c_str(), vlaggen));
     if (!greep.open()) return LaatsteFout();
+    if (const auto fout = greep.geenBestand()) return fout;
     std::vector<char>& ruimte = buffer.ruimte;
     if (ruimte.size() < eersteRuimte) ruimte.resize(eersteRuimte);
     std::size_t lengte = 0;
@@ -86,12 +102,7 @@ std::error_code LeesBestand(const std::string& pad, Leesbuffer& buffer) {
         if (lengte + achttal::opvulling >= ruimte.size()) ruimte.resize(ruimte.size() * 2);
         const ssize_t gelezen =
             greep.lees(ruimte.data() + lengte, ruimte.size() - achttal::opvulling - lengte);
-        if (gelezen < 0) {
-            const auto fout = LaatsteFout();
-            return fout == std::errc::is_a_directory
-                       ? std::make_error_code(std::errc::no_such_file_or_directory)
-                       : fout;
-        }
+        if (gelezen < 0) return LaatsteFout();
         if (gelezen == 0) break;
         lengte += static_cast<std::size_t>(gelezen);
     }
@@ -137,10 +148,15 @@ std::error_code NamenInMap(const std::string& pad, std::vector<std::string>& nam
     const auto sluit = [](DIR* map) { ::closedir(map); };
     const std::unique_ptr<DIR, decltype(sluit)> map(::opendir(Schrijfwijze(pad).c_str()), sluit);
     if (!map) return errno == ENOENT || errno == ENOTDIR ? std::error_code{} : LaatsteFout();
-    while (const dirent* deel = ::readdir(map.get()))
+    for (;;) {
+        errno = 0; // the end of the folder does not set it
+        const dirent* deel = ::readdir(map.get());
+        if (deel == nullptr) break;
         namen.emplace_back(deel->d_name);
+    }
+    const std::error_code fout = LaatsteFout();
     std::sort(namen.begin(), namen.end());
-    return {};
+    return fout;
 }
 
 std::string Schrijfwijze(std::string_view pad) {

@@ -74,17 +74,25 @@ void GooiNietLeesbaar(const std::string& pad, const std::error_code& code) {
     Gooi(FoutSoort::BestandNietLeesbaar, pad, code);
 }
 
+void GooiNietSchrijfbaar(const std::string& pad, const std::error_code& code) {
+    Gooi(FoutSoort::BestandNietSchrijfbaar, pad, code);
+}
+
+bool StaatEr(const std::string& pad) {
+    systeem::Leesbuffer buffer;
+    return systeem::LeesBestand(WerkelijkPad(pad), buffer) != std::errc::no_such_file_or_directory;
+}
+
 void VervangTekst(const std::string& pad, std::string_view utf8) {
     const std::error_code code = systeem::VervangBestand(WerkelijkPad(pad), NaarCodetabel(utf8));
-    if (code) Gooi(FoutSoort::BestandNietSchrijfbaar, pad, code);
+    if (code) GooiNietSchrijfbaar(pad, code);
 }
 
 std::string MaakMap(const std::string& pad) {
     std::string werkelijk = WerkelijkPad(pad);
     if (!systeem::MaakMap(werkelijk)) return werkelijk;
     // What stands there in another letter case may be a file; it need not be in the way.
-    if (const std::error_code code = systeem::MaakMap(pad))
-        Gooi(FoutSoort::BestandNietSchrijfbaar, pad, code);
+    if (const std::error_code code = systeem::MaakMap(pad)) GooiNietSchrijfbaar(pad, code);
     return pad;
 }
 

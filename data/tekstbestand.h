@@ -35,6 +35,12 @@ namespace lauwerkrans {
 /// The error of a file that could not be read, as Fout (BestandNietLeesbaar).
 [[noreturn]] void GooiNietLeesbaar(const std::string& pad, const std::error_code& code);
 
+/// The error of a file that cannot be written, as Fout (BestandNietSchrijfbaar).
+[[noreturn]] void GooiNietSchrijfbaar(const std::string& pad, const std::error_code& code);
+
+/// Whether a file stands there, its name in any letter case, readable or not.
+[[nodiscard]] bool StaatEr(const std::string& pad);
+
 /// Replaces the contents of a file by a text, written in the code page, whole or not at all.
 /// Throws Fout (BestandNietSchrijfbaar); the earlier file then stands as it was.
 void VervangTekst(const std::string& pad, std::string_view utf8);

@@ -172,6 +172,44 @@ TEST_F(InstellingenTest, WhatCannotBeWrittenIsReportedAndLosesNothing) {
     EXPECT_THROW(SchrijfInstellingen(instellingen, Stand()), Fout);
 }
 
+TEST_F(InstellingenTest, WhatCouldNotBeReadIsNotReplaced) {
+    const auto bezet = proef::MaakOnleesbaar(map.map() / "Lauwr.ini");
+    LeesInstellingen(instellingen, algemeen);
+    EXPECT_EQ(instellingen.IniRegels.bovengrens(), 0U);
+    try {
+        SchrijfInstellingen(instellingen, Stand());
+        FAIL() << "written over settings that nobody read";
+    } catch (const Fout& fout) {
+        EXPECT_EQ(FoutTekst(fout), "Het bestand '" +
+                                       systeem::Schrijfwijze(map.pad() + "/Lauwr.ini") +
+                                       "' kan niet worden geschreven: " +
+                                       Reden(make_error_code(proef::onleesbaarFout)) + ".");
+    }
+    EXPECT_EQ(aantalBestanden(), 1U);
+}
+
+TEST_F(InstellingenTest, WhatCouldNotBeReadAndIsGoneIsWrittenAnew) {
+    auto bezet = proef::MaakOnleesbaar(map.map() / "Lauwr.ini");
+    LeesInstellingen(instellingen, algemeen);
+    bezet.reset();
+    std::filesystem::remove(map.map() / "Lauwr.ini");
+    SchrijfInstellingen(instellingen, Stand());
+    EXPECT_NE(inhoud(), "");
+    LeesInstellingen(instellingen, algemeen);
+    SchrijfInstellingen(instellingen, Stand()); // it has been read meanwhile
+}
+
+/// Another program let go of it meanwhile: what it holds has still not been read.
+TEST_F(InstellingenTest, WhatCouldNotBeReadStaysAlsoWhenItIsFreeAgain) {
+    auto bezet = proef::MaakOnleesbaar(map.map() / "Lauwr.ini");
+    LeesInstellingen(instellingen, algemeen);
+    bezet.reset();
+    std::filesystem::remove(map.map() / "Lauwr.ini");
+    map.schrijf("Lauwr.ini", "__TXT1=13\r\n");
+    EXPECT_THROW(SchrijfInstellingen(instellingen, Stand()), Fout);
+    EXPECT_EQ(inhoud(), "__TXT1=13\r\n");
+}
+
 TEST(MaakBestandsnaam, ReplacesNineCharactersAndNoOther) {
     EXPECT_EQ(MaakBestandsnaam("a\\b/c?d:e*f>g<h|i j"), "a_b_c_d_e_f_g_h_i_j");
     EXPECT_EQ(MaakBestandsnaam("A/B 2024"), "A_B_2024");

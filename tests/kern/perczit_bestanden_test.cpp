@@ -166,6 +166,22 @@ TEST(Percentagebestand, ThatCannotBeOpenedIsAnErrorAndNotASessionLess) {
                                    Reden(make_error_code(proef::onleesbaarFout)) + ".");
 }
 
+/// A stick that is pulled out halfway: what was there at the listing is not found any more.
+TEST(Percentagebestand, ThatIsGoneWithItsCompetitionHalfwayIsAnError) {
+    ProefMet proef("");
+    proef.schrijfZitting(1, 1, {});
+    bool weg = false;
+    proef.algemeen.voortgang = {[] { return true; },
+                                [&](std::size_t, std::size_t) {
+                                    if (!weg) proef.map().verwijder("Competities/Proef");
+                                    weg = true;
+                                }};
+    const Fout fout = FoutVanLezing(proef, "A");
+    EXPECT_TRUE(weg);
+    EXPECT_EQ(FoutTekst(fout), "Het bestand '" + systeem::Schrijfwijze(proef.algemeen.competitie) +
+                                   "' kan niet worden gelezen: de map bestaat niet.");
+}
+
 TEST(Percentagebestand, AFolderInItsPlaceCountsAsMissing) {
     ProefMet proef("");
     proef.map().verwijder(zitting22);

@@ -6,7 +6,6 @@
 #include <system_error>
 #include <utility>
 
-#include <csignal>
 #include <sys/fsuid.h>
 #include <sys/resource.h>
 
@@ -40,7 +39,7 @@ private:
 /// While it lives a file of this process may hold so many bytes.
 class KleineBestanden {
 public:
-    explicit KleineBestanden(::rlim_t bytes) : opSignaal_(std::signal(SIGXFSZ, SIG_IGN)) {
+    explicit KleineBestanden(::rlim_t bytes) {
         ::getrlimit(RLIMIT_FSIZE, &eerder_);
         const ::rlimit klein{bytes, eerder_.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &klein);
@@ -49,13 +48,9 @@ public:
     KleineBestanden(KleineBestanden&&) = delete;
     KleineBestanden& operator=(const KleineBestanden&) = delete;
     KleineBestanden& operator=(KleineBestanden&&) = delete;
-    ~KleineBestanden() {
-        ::setrlimit(RLIMIT_FSIZE, &eerder_);
-        std::signal(SIGXFSZ, opSignaal_);
-    }
+    ~KleineBestanden() { ::setrlimit(RLIMIT_FSIZE, &eerder_); }
 
 private:
-    void (*opSignaal_)(int);
     ::rlimit eerder_{};
 };
 

@@ -39,10 +39,10 @@ std::vector<Storing> StoringenVanMappen() {
 
 std::vector<Storing> StoringenVanLauwr() {
     auto rijen = Gewone(zonderCriteria, zonderCriteria, zonderCriteria);
-    // What stands in the way of the settings is said when they are written.
-    const bool bezet = onleesbaarFout == std::errc::device_or_resource_busy;
+    // What stands in the way of the settings is said when they are written; what could not be read
+    // is not replaced.
     for (Storing& rij : rijen) {
-        if (rij.naam == onleesbaar && bezet) {
+        if (rij.naam == onleesbaar) {
             rij.verwacht.einde = {"Het bestand '<map>/Lauwerkrans/Lauwr.ini' kan niet worden "
                                   "geschreven: <reden>."};
         }

@@ -8,6 +8,7 @@
 #include <iterator>
 
 #include <csignal>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -31,6 +32,18 @@ TEST(VervangBestand, AFileThatCannotGrowLeavesTheOldOneWhole) {
                   std::errc::file_too_large);
     }
     EXPECT_EQ(map.inhoud(), (std::map<std::string, std::string>{{"lijst", "oud"}}));
+}
+
+/// A pipe would be waited for, a device read until the memory is full.
+TEST(LeesBestand, ReadsNothingThatIsNoFile) {
+    const proef::Proefmap map;
+    const std::string pijp = map.pad() + "/pijp";
+    ASSERT_EQ(::mkfifo(pijp.c_str(), 0600), 0);
+    std::filesystem::create_symlink("/dev/zero", map.map() / "nullen");
+    systeem::Leesbuffer buffer;
+    EXPECT_EQ(systeem::LeesBestand(pijp, buffer), std::errc::file_exists);
+    EXPECT_EQ(systeem::LeesBestand(map.pad() + "/nullen", buffer), std::errc::file_exists);
+    EXPECT_EQ(buffer.bytes(), "");
 }
 
 TEST(VervangBestand, WritesThroughNoLinkThatStandsInTheWay) {
