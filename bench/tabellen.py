@@ -103,10 +103,25 @@ def venster(metingen):
         if m is None:
             continue
         rijen.append([tekst, heel(m["rijen"]), kort(m["kaal_ms"]), kort(m["start_ms"]),
-                      kort(m["bereken_ms"]), kort(m["controle_ms"]), kort(m["stap_ms"]),
-                      heel(m["piek_MB"])])
+                      kort(m["bereken_ms"]), kort(m["controle_ms"]), kort(m["tonen_ms"]),
+                      kort(m["stap_ms"]), heel(m["piek_MB"])])
     return tabel(["Competition", "Rows", "kaal (ms)", "Start (ms)", '"Bereken" (ms)',
-                  '"Controle" (ms)', "Scroll step (ms)", "Peak (MB)"], rijen)
+                  '"Controle" (ms)', "its list shown (ms)", "Scroll step (ms)", "Peak (MB)"], rijen)
+
+
+def details(metingen):
+    rijen = []
+    for competitie, venster_, tekst in [
+            ("club", "", "club, 5 x 5"), ("grootst", "", "largest, 99 x 99"),
+            ("losse_paren", "", "99 x 99, partners at random"),
+            ("groot", "_heel_scherm", "large, 30 x 33, on 1920 x 1020"),
+            ("grootst", "_heel_scherm", "largest, on 1920 x 1020")]:
+        m = metingen[f"venster_MeetDetails_{competitie}{venster_}"]
+        rijen.append([tekst, heel(m["rijen"]), heel(m["kolommen"]), kort(m["bereken_ms"]),
+                      kort(m["tonen_ms"]), kort(m["stap_neer_ms"]), kort(m["stap_opzij_ms"]),
+                      heel(m["piek_MB"])])
+    return tabel(["Ranking with details", "Rows", "Columns", '"Bereken" (ms)', "shown (ms)",
+                  "Step down (ms)", "Step aside (ms)", "Peak (MB)"], rijen)
 
 
 def begin(map_):
@@ -141,6 +156,7 @@ def main():
         "groei": groei(metingen),
         "vergelijk": vergelijk(metingen, map_),
         "venster": venster(metingen),
+        "details": details(metingen),
         "begin": begin(map_),
         "bladen": bladen(metingen),
     }

@@ -137,16 +137,18 @@ bool frmMain::aangevinkt(const char* naam) const {
 }
 
 /// Puts another list on show. When that fails the last one stays, with what belongs to it: caption
-/// and state of the output button and whether it is a member's list.
+/// and state of the output button, what kind of list it is and whether it is a member's.
 void frmMain::vervangLijst(const std::function<void()>& werk) {
     const bool ledenlijst = PersoonFilterAan_;
     const bool aan = printbaar();
+    const std::int16_t soort = ToonControle;
     try {
         werk();
     } catch (...) {
         PersoonFilterAan_ = ledenlijst;
         zetUitvoerBijschrift(ledenlijst);
         zetPrintbaar(aan);
+        ToonControle = soort;
         throw;
     }
 }
@@ -165,10 +167,8 @@ void frmMain::bereken(const std::string& lijnen) {
     std::shared_ptr<const Uitslag> uitslag;
     leeswacht_->bewaak([&] { uitslag = Bereken(algemeen_, lijnen, rijen_->criteria(), opties()); });
     Toon_in_P10();
-    Resets();
-    uitslag_ = std::move(uitslag);
     ToonControle = 0;
-    ToonLvwRes();
+    ToonLvwRes(uitslag);
     zetPrintbaar(uitslag_->resultaat.bovengrens > 0);
 }
 
@@ -193,7 +193,6 @@ void frmMain::toonControlelijst(const Selectie& selectie) {
     std::shared_ptr<const Controle> controle;
     leeswacht_->bewaak([&] { controle = Controleer(algemeen_, selectie); });
     Toon_in_P10();
-    raster_->ToonP20_leeg(); // the last ranking stays behind the list
     ToonControle = 1;
     ToonLvwR(controle);
 }
@@ -235,16 +234,25 @@ void frmMain::zetUitvoerBijschrift(bool ledenlijst) {
                              : QString::fromUtf8(OntwerpVan("cmdPrinten").bijschrift));
 }
 
-void frmMain::ToonLvwRes() {
-    const auto lijst = MaakRanglijst(uitslag_, uitslag_->opties.zitDetails, ToonControle == 1);
-    Vind<KopLabel>(*this, "lblResultKop")->zetBijschrift(QString::fromStdString(lijst->titel()));
-    raster_->toon(lijst);
+void frmMain::ToonLvwRes(const std::shared_ptr<const Uitslag>& uitslag) {
+    toonLijst(MaakRanglijst(uitslag, uitslag->opties.zitDetails, ToonControle == 1), [&] {
+        Resets();
+        uitslag_ = uitslag;
+    });
 }
 
 void frmMain::ToonLvwR(const std::shared_ptr<const Controle>& controle) {
-    const auto lijst = MaakControlelijst(controle);
+    // The last ranking stays behind the list.
+    toonLijst(MaakControlelijst(controle), [this] { raster_->ToonP20_leeg(); });
+}
+
+/// Measures a list, for which there may be no memory, before the one on show gives way to it.
+void frmMain::toonLijst(const std::shared_ptr<const Lijst>& lijst,
+                        const std::function<void()>& maakPlaats) {
+    Tabelbeeld beeld = raster_->beeldVan(lijst);
+    maakPlaats();
     Vind<KopLabel>(*this, "lblResultKop")->zetBijschrift(QString::fromStdString(lijst->titel()));
-    raster_->toon(lijst);
+    raster_->toon(lijst, std::move(beeld));
 }
 
 void frmMain::txt1_LostFocus(std::size_t lijn) {

@@ -52,8 +52,8 @@ public:
     /// Empties results and grid before a new list is shown.
     void Resets();
 
-    /// Shows the ranking of the last calculation in the grid.
-    void ToonLvwRes();
+    /// Makes a calculation the last one, and shows its ranking in the grid.
+    void ToonLvwRes(const std::shared_ptr<const Uitslag>& uitslag);
 
     /// Shows the score rows of a reading in the grid.
     void ToonLvwR(const std::shared_ptr<const Controle>& controle);
@@ -131,6 +131,8 @@ private:
     void bereken(const std::string& lijnen);
     void toonControlelijst(const Selectie& selectie);
     void zoekLid();
+    void toonLijst(const std::shared_ptr<const Lijst>& lijst,
+                   const std::function<void()>& maakPlaats);
     void vervangLijst(const std::function<void()>& werk);
     void zetUitvoerBijschrift(bool ledenlijst);
     [[nodiscard]] bool aangevinkt(const char* naam) const;

@@ -104,8 +104,8 @@ void PaneelP20::Verw_Headers() {
     metKnop_ = {};
 }
 
-void PaneelP20::toon(std::shared_ptr<const Lijst> lijst) {
-    vul(std::move(lijst));
+void PaneelP20::toon(std::shared_ptr<const Lijst> lijst, Tabelbeeld beeld) {
+    vul(std::move(lijst), std::move(beeld));
     HScroll20->setValue(0);
     VScroll20->setValue(0);
 }
@@ -126,12 +126,11 @@ void PaneelP20::zetVergroting(int procent) {
         pasAan();
         return;
     }
-    vul(lijst_);
+    vul(lijst_, beeldVan(lijst_));
     HScroll20->setValue(static_cast<int>(std::lround(P21->beeld().x.at(kolom) + voorbij)));
 }
 
-void PaneelP20::vul(std::shared_ptr<const Lijst> lijst) {
-    Tabelbeeld beeld = gevuldBeeld(lijst); // may fail; then the old list stays
+void PaneelP20::vul(std::shared_ptr<const Lijst> lijst, Tabelbeeld beeld) {
     Verw_Headers();
     lijst_ = std::move(lijst);
     cmd20_.resize(lijst_->kolommen());
@@ -152,7 +151,7 @@ Tabelbeeld PaneelP20::leegBeeld() const {
     return beeld;
 }
 
-Tabelbeeld PaneelP20::gevuldBeeld(const std::shared_ptr<const Lijst>& lijst) const {
+Tabelbeeld PaneelP20::beeldVan(const std::shared_ptr<const Lijst>& lijst) const {
     Tabelbeeld beeld;
     beeld.x = KolomPosities(*lijst, *P21);
     beeld.rijen = lijst->rijen();

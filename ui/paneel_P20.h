@@ -45,8 +45,11 @@ public:
     /// headers first.
     [[nodiscard]] QString alsTekst() const;
 
-    /// Replaces what is shown by a list, from its first row and column on.
-    void toon(std::shared_ptr<const Lijst> lijst);
+    /// How a list looks, its columns measured. Leaves what is shown as it is.
+    [[nodiscard]] Tabelbeeld beeldVan(const std::shared_ptr<const Lijst>& lijst) const;
+
+    /// Replaces what is shown by a list and its look, from its first row and column on.
+    void toon(std::shared_ptr<const Lijst> lijst, Tabelbeeld beeld);
 
     /// The list on show; none while the grid is empty.
     [[nodiscard]] const std::shared_ptr<const Lijst>& lijst() const { return lijst_; }
@@ -73,8 +76,7 @@ private:
     [[nodiscard]] double zichtBreedte() const; // inner size of P20 in mm
     [[nodiscard]] double zichtHoogte() const;
     [[nodiscard]] Tabelbeeld leegBeeld() const;
-    [[nodiscard]] Tabelbeeld gevuldBeeld(const std::shared_ptr<const Lijst>& lijst) const;
-    void vul(std::shared_ptr<const Lijst> lijst);
+    void vul(std::shared_ptr<const Lijst> lijst, Tabelbeeld beeld);
     void zetSchuiven();
     void plaatsStrip();
     void maakKnoppen();

@@ -39,9 +39,7 @@ protected:
     [[nodiscard]] double binnenBreedte() const { return proef.venster->width() * 15.0; }
     [[nodiscard]] double binnenHoogte() const { return proef.venster->height() * 15.0; }
 
-    void toon(const std::shared_ptr<const Lijst>& lijst) const {
-        proef.venster->raster().toon(lijst);
-    }
+    void toon(const std::shared_ptr<const Lijst>& lijst) const { proef.toon(lijst); }
 
     /// The rules, one after the other, for the window's size of this moment.
     void controleerRechts() const {

@@ -19,9 +19,7 @@ protected:
 
 class RasterProef : public GestartVenster {
 protected:
-    void toon(const std::shared_ptr<const Lijst>& lijst) const {
-        proef.venster->raster().toon(lijst);
-    }
+    void toon(const std::shared_ptr<const Lijst>& lijst) const { proef.toon(lijst); }
     /// The size of the viewport inside its border (mm).
     [[nodiscard]] double zichtBreedte() const { return P20.contentsRect().width() * 25.4 / 96; }
     [[nodiscard]] double zichtHoogte() const { return P20.contentsRect().height() * 25.4 / 96; }

@@ -133,7 +133,7 @@ QImage Vergroot(QWidget& element, double schaal) {
 TEST_F(VensterTest, LinesAreEquallyThickAtEveryScaleOfTheScreen) {
     auto lijst = MaakProefLijst(30, 8, 17);
     lijst->tekst = [](std::size_t, std::size_t) { return std::string(); };
-    proef.venster->raster().toon(lijst);
+    proef.toon(lijst);
     for (const double schaal : {1.0, 1.25, 1.5, 1.75, 2.0}) {
         const int dikte = static_cast<int>(schaal);
         const QColor lijn(210, 210, 210);
@@ -159,7 +159,7 @@ TEST_F(VensterTest, LinesAreEquallyThickAtEveryScaleOfTheScreen) {
 }
 
 TEST_F(VensterTest, WhatIsTooWideForAPanelLeavesItsBorder) {
-    proef.venster->raster().toon(MaakProefLijst(300, 20, 40));
+    proef.toon(MaakProefLijst(300, 20, 40));
     const QColor rand(160, 160, 160);
     for (const char* naam : {"P0", "P10", "P20"}) {
         const QImage beeld = Beeld(proef.vind<QWidget>(naam));

@@ -65,6 +65,11 @@ std::string Vensterproef::kop() const {
     return vind<KopLabel>("lblResultKop").bijschrift().toStdString();
 }
 
+void Vensterproef::toon(const std::shared_ptr<const Lijst>& lijst) const {
+    PaneelP20& raster = venster->raster();
+    raster.toon(lijst, raster.beeldVan(lijst));
+}
+
 std::string Vensterproef::rij(std::size_t nummer) const {
     const auto& lijst = *venster->raster().lijst();
     std::string tekst;

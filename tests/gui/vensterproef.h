@@ -56,6 +56,9 @@ public:
     void typ(const char* naam, const char* tekst) const;
 
     [[nodiscard]] std::string kop() const; // the title over the grid
+    /// Shows a list in the grid.
+    void toon(const std::shared_ptr<const Lijst>& lijst) const;
+
     /// A row of the grid, its cells joined by "|".
     [[nodiscard]] std::string rij(std::size_t nummer) const;
     [[nodiscard]] std::size_t rijen() const;

@@ -21,7 +21,16 @@ std::atomic<std::ptrdiff_t> inGebruik = 0;
 std::atomic<std::ptrdiff_t> hoogste = 0;
 std::atomic<std::size_t> aanvragen = 0;
 
+// Blocks of these lengths are refused.
+std::atomic<std::size_t> tekortVan = 1;
+std::atomic<std::size_t> tekortTot = 0;
+std::atomic<std::size_t> geweigerdeAanvragen = 0;
+
 void* Neem(std::size_t aantal) {
+    if (aantal >= tekortVan && aantal <= tekortTot) {
+        ++geweigerdeAanvragen;
+        return nullptr;
+    }
     void* blok = std::malloc(aantal == 0 ? 1 : aantal);
     if (blok == nullptr) return nullptr;
     const std::ptrdiff_t nu = inGebruik += static_cast<std::ptrdiff_t>(Lengte(blok));
@@ -70,5 +79,18 @@ Geheugenmeter::Geheugenmeter() : begin_(inGebruik), kerenBegin_(aanvragen) {
 std::size_t Geheugenmeter::piek() const { return static_cast<std::size_t>(hoogste - begin_); }
 
 std::size_t Geheugenmeter::keren() const { return aanvragen - kerenBegin_; }
+
+Geheugentekort::Geheugentekort(std::size_t van, std::size_t tot) {
+    geweigerdeAanvragen = 0;
+    tekortVan = van;
+    tekortTot = tot;
+}
+
+Geheugentekort::~Geheugentekort() {
+    tekortVan = 1;
+    tekortTot = 0;
+}
+
+std::size_t Geheugentekort::geweigerd() { return geweigerdeAanvragen; }
 
 } // namespace lauwerkrans::proef

@@ -106,6 +106,21 @@ TEST(Ranglijst, IsBoldFromLineToAverageInTheColourOfItsLine) {
     EXPECT_EQ(lijst->lijn(3), 'B');
 }
 
+TEST(Ranglijst, ExplainsASessionInWords) {
+    const Scores scores{
+        {"11", "11"},
+        {{'A', 1, 2, 1, 1, "54,32", 24}, {'A', 1, 2, 2, 2, "100", 1}, {'A', 1, 2, 2, 1, "0", 24}}};
+    const auto lijst = Ranglijst(scores, {"1"}, true);
+    ASSERT_EQ(Regel(*lijst, 1), "1|A|1|" + lijst->cel(1, 4) + "|2|77,160|54,320_24||-|100,000_01");
+    EXPECT_EQ(lijst->uitleg(1, 7), "Ronde 1, zitting 1: 24 spellen, 54,320 %");
+    EXPECT_EQ(lijst->uitleg(1, 8), "Ronde 1, zitting 2: niet gespeeld door dit paar");
+    EXPECT_EQ(lijst->uitleg(1, 9), "Ronde 2, zitting 1: geen score die meetelt");
+    EXPECT_EQ(lijst->uitleg(1, 10), "Ronde 2, zitting 2: 1 spel, 100,000 %");
+    for (std::size_t kolom = 1; kolom <= 6; ++kolom)
+        EXPECT_EQ(lijst->uitleg(1, kolom), "") << kolom;
+    EXPECT_EQ(Controlelijst(scores)->uitleg(1, 5), "");
+}
+
 TEST(ZittingKoppen, RunOverRoundsAndSessionsWithoutLeadingZeros) {
     EXPECT_EQ(ZittingKoppen(Scores({"11", "11"}, {}).rondeInfo),
               (Teksten{"R1-Z1-Sp", "R1-Z2-Sp", "R2-Z1-Sp", "R2-Z2-Sp"}));
