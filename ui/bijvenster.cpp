@@ -12,20 +12,29 @@ Bijvenster::Bijvenster() {
 }
 
 void Bijvenster::toonOver(const QWidget& venster) {
-    if (!geplaatst_) {
-        const QWidget& buitenste = *venster.window();
-        QRect vak(QPoint(), maten::Buitenmaat(size()));
-        const QSize kader = vak.size() - size();
-        vak.moveCenter(buitenste.frameGeometry().center());
-        vak = maten::BinnenScherm(vak, buitenste.screen()->availableGeometry());
-        resize(vak.size() - kader);
-        move(vak.topLeft());
-        geplaatst_ = true;
+    const QWidget& buitenste = *venster.window();
+    const QRect vrij = buitenste.screen()->availableGeometry();
+    if (!geplaatst_ && KleinScherm::nodig(*this, vrij))
+        kleinScherm_ = std::make_unique<KleinScherm>(*this);
+    if (kleinScherm_) {
+        kleinScherm_->toon(vrij);
+    } else {
+        if (!geplaatst_) plaats(buitenste, vrij);
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+        show();
     }
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
+    geplaatst_ = true;
+    window()->raise();
+    window()->activateWindow();
+}
+
+void Bijvenster::plaats(const QWidget& midden, const QRect& vrij) {
+    QRect vak(QPoint(), maten::Buitenmaat(size()));
+    const QSize kader = vak.size() - size();
+    vak.moveCenter(midden.frameGeometry().center());
+    vak = maten::BinnenScherm(vak, vrij);
+    resize(vak.size() - kader);
+    move(vak.topLeft());
 }
 
 } // namespace lauwerkrans

@@ -3,6 +3,10 @@
 
 #include <QWidget>
 
+#include <memory>
+
+#include "ui/klein_scherm.h"
+
 namespace lauwerkrans {
 
 class Bijvenster : public QWidget {
@@ -12,11 +16,14 @@ public:
     Bijvenster();
 
     /// Shows the window and brings it to the front; the first time in the middle of the given one,
-    /// within the screen.
+    /// within the screen. On a screen that is smaller than its minimum it is shown scrolling.
     void toonOver(const QWidget& venster);
 
 private:
+    void plaats(const QWidget& midden, const QRect& vrij);
+
     bool geplaatst_ = false;
+    std::unique_ptr<KleinScherm> kleinScherm_;
 };
 
 } // namespace lauwerkrans

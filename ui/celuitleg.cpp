@@ -4,15 +4,15 @@
 
 namespace lauwerkrans {
 
-void ToonUitleg(TabelLijf& lijf, const Lijst* lijst, const QHelpEvent& vraag) {
+void ToonUitleg(TabelLijf& lijf, const QHelpEvent& vraag) {
     const auto plaats = lijf.celOp(vraag.pos());
-    const std::string tekst =
-        lijst != nullptr && plaats ? lijst->uitleg(plaats->rij, plaats->kolom) : std::string();
-    if (tekst.empty()) {
+    const auto& uitleg = lijf.beeld().uitleg;
+    const QString tekst = uitleg && plaats ? uitleg(plaats->rij, plaats->kolom) : QString();
+    if (tekst.isEmpty()) {
         QToolTip::hideText();
         return;
     }
-    QToolTip::showText(vraag.globalPos(), QString::fromStdString(tekst), &lijf,
+    QToolTip::showText(vraag.globalPos(), tekst, &lijf,
                        lijf.celVak(plaats->rij, plaats->kolom).toAlignedRect());
 }
 

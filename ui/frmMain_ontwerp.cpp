@@ -19,7 +19,7 @@ const std::array tabel = std::to_array<Ontwerp>({
     {Soort::Knop, "cmd10_0", "P12", {0, 0, 1095, 255}, "...", Verborgen},
     {Soort::Tabel, "P11", "P10", {0, 0, 2535, 1095}, "", Gewoon, Vlak::Geel},
     {Soort::SchuifVerticaal, "VScroll10", "Frame1", {4080, 720, 255, 1095}},
-    {Soort::SchuifHorizontaal, "HScroll1", "Frame1", {0, 3480, 9375, 255}},
+    {Soort::SchuifHorizontaal, "HScroll1", "Frame1", {0, 3480, 9375, 255}, "", Verborgen},
     {Soort::KopLabel, "Label1", "Frame1", {120, 240, 4335, 375}, "Label1", Vet | Midden | Blauw},
 
     {Soort::Kader, "Frame3", "", {120, 2640, 4455, 3495}, "Criteria en berekenen", Vet | Blauw},

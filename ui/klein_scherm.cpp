@@ -29,6 +29,7 @@ bool KleinScherm::nodig(const QWidget& venster, const QRect& vrij) {
 }
 
 void KleinScherm::toon(const QRect& vrij) {
+    venster_.show(); // it may have been closed before
     resize(vrij.size() - (maten::Buitenmaat(vrij.size()) - vrij.size()));
     move(vrij.topLeft());
     showMaximized();

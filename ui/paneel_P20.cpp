@@ -163,6 +163,9 @@ Tabelbeeld PaneelP20::beeldVan(const std::shared_ptr<const Lijst>& lijst) const 
                         vet ? LijnKleur(lijst->lijn(rij))
                             : Schermkleur(kleuren::zwart, QPalette::Text)};
     };
+    beeld.uitleg = [lijst](std::size_t rij, std::size_t kolom) {
+        return QString::fromStdString(lijst->uitleg(rij, kolom));
+    };
     beeld.kop = [lijst](std::size_t kolom) {
         return QString::fromStdString(lijst->koppen()[kolom - 1]);
     };

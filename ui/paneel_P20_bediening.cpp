@@ -85,7 +85,7 @@ bool PaneelP20::eventFilter(QObject* object, QEvent* gebeurtenis) {
         }
     }
     if (gebeurtenis->type() == QEvent::ToolTip) {
-        ToonUitleg(*P21, lijst_.get(), *static_cast<const QHelpEvent*>(gebeurtenis));
+        ToonUitleg(*P21, *static_cast<const QHelpEvent*>(gebeurtenis));
         return true;
     }
     return QObject::eventFilter(object, gebeurtenis);

@@ -82,6 +82,7 @@ public:
     void drawPrimitive(PrimitiveElement deel, const QStyleOption* optie, QPainter* schilder,
                        const QWidget* element) const override {
         QProxyStyle::drawPrimitive(deel, optie, schilder, element);
+        if (deel == PE_FrameLineEdit && hoogContrast_) toonFocusvak(*optie, *schilder);
         if (deel != PE_PanelButtonCommand) return;
         schilder->save();
         schilder->setRenderHint(QPainter::Antialiasing);
@@ -98,6 +99,14 @@ private:
         schilder.setPen(Qt::NoPen);
         schilder.setBrush(ingedrukt ? kleur.darker(115) : kleur);
         schilder.drawRoundedRect(QRectF(optie.rect).adjusted(1, 1, -1, -1), 1.5, 1.5);
+    }
+
+    /// Fusion has a blue border of its own; the plain style nothing but the text cursor.
+    static void toonFocusvak(const QStyleOption& optie, QPainter& schilder) {
+        if ((optie.state & State_HasFocus) == 0) return;
+        const QColor kleur = optie.palette.color(QPalette::Highlight);
+        TrekRand(schilder, optie.rect, kleur);
+        TrekRand(schilder, optie.rect.adjusted(1, 1, -1, -1), kleur);
     }
 
     /// Inside Fusion's own border, whose one pixel is hardly seen on a colour.

@@ -46,6 +46,8 @@ struct Tabelbeeld {
     QColor lijnKleur;
     std::function<Celbeeld(std::size_t rij, std::size_t kolom)> cel; // both from 1
     std::function<QString(std::size_t kolom)> kop;                   // the header of a column
+    /// A cell in words, empty where there is no more to say; may be left out.
+    std::function<QString(std::size_t rij, std::size_t kolom)> uitleg;
     std::function<QWidget*(std::size_t kolom)> kopknop; // its button, or nullptr: not made yet
     QPixmap plaatje;              // drawn below the rows, when there is room for it
     std::size_t plaatjeKolom = 0; // in the middle of this column, from 1

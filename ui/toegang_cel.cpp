@@ -34,8 +34,9 @@ QString RasterCel::text(QAccessible::Text soort) const {
     if (soort == QAccessible::Name) {
         return rij_ == 0 ? beeld.kop(kolom_) : beeld.cel(rij_, kolom_).tekst;
     }
-    const bool heleRij = soort == QAccessible::Description && rij_ > 0 && kolom_ == 1;
-    return heleRij ? RijTekst(bron_.lijf(), rij_) : QString();
+    if (soort != QAccessible::Description || rij_ == 0) return {};
+    if (kolom_ == 1) return RijTekst(bron_.lijf(), rij_);
+    return beeld.uitleg ? beeld.uitleg(rij_, kolom_) : QString();
 }
 
 QRect RasterCel::rect() const {

@@ -45,7 +45,8 @@ public:
     [[nodiscard]] QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override {
         return nullptr;
     }
-    /// The name is the cell's text, the description of a row's first cell the whole row.
+    /// The name is the cell's text; the description that of its tool tip, of a row's first cell the
+    /// whole row.
     [[nodiscard]] QString text(QAccessible::Text soort) const override;
     void setText(QAccessible::Text /*soort*/, const QString& /*tekst*/) override {}
     [[nodiscard]] QRect rect() const override;

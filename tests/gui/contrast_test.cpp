@@ -4,16 +4,19 @@
 
 #include <QGroupBox>
 #include <QLabel>
+#include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStyleOptionButton>
 #include <QToolTip>
 
 #include <map>
 #include <optional>
+#include <stdexcept>
 
 #include "beeldproef.h"
 #include "tools/zwart_bureaublad.h"
-#include "ui/frmToelichting.h"
+#include "ui/berichten.h"
 #include "ui/hoog_contrast.h"
 #include "ui/stijl.h"
 #include "ui/tabellijf.h"
@@ -69,6 +72,8 @@ QRect Tekstvlak(const QWidget& element) {
         optie.initFrom(&element);
         return element.style()->subElementRect(QStyle::SE_CheckBoxContents, &optie, &element);
     }
+    if (const auto* blad = qobject_cast<const QPlainTextEdit*>(&element))
+        return blad->viewport()->geometry();
     if (const auto* kader = qobject_cast<const QGroupBox*>(&element)) {
         return {8, 0, kader->fontMetrics().horizontalAdvance(kader->title()),
                 kader->fontMetrics().height()};
@@ -77,11 +82,18 @@ QRect Tekstvlak(const QWidget& element) {
 }
 
 QString Tekst(const QWidget& element) {
-    for (const char* naam : {"text", "title"}) {
+    for (const char* naam : {"text", "title", "plainText"}) {
         const QVariant waarde = element.property(naam);
         if (waarde.isValid()) return waarde.toString();
     }
     return {};
+}
+
+QWidget* Venster(const char* naam) {
+    for (QWidget* venster : QApplication::topLevelWidgets()) {
+        if (venster->objectName() == QLatin1String(naam)) return venster;
+    }
+    throw std::runtime_error(std::string("no window ") + naam);
 }
 
 /// The window with lines of every colour and a list of them.
@@ -112,7 +124,9 @@ protected:
         int gezien = 0;
         for (auto* element : venster.findChildren<QWidget*>()) {
             if (!element->isVisibleTo(&venster) || Tekst(*element).trimmed().isEmpty()) continue;
-            if (element->visibleRegion().boundingRect() != element->rect()) continue;
+            if (element->visibleRegion().boundingRect() != element->rect() &&
+                qobject_cast<const QPlainTextEdit*>(element) == nullptr)
+                continue;
             const bool voorgeschreven =
                 element->palette().color(QPalette::WindowText) == kleuren::rood;
             if (eigenKleurenAlleen && voorgeschreven) continue;
@@ -125,6 +139,30 @@ protected:
                 << " on " << twee->grond.name().toStdString();
         }
         return gezien;
+    }
+
+    /// Looks at the other windows: both previews, the explanation, a message and a tool tip.
+    void kijkNaarAndere() {
+        proef_->klik("cmdToelichting");
+        EXPECT_EQ(kijk(*Venster("frmToelichting"), false), 1);
+        for (const char* naam : {"frmPrinten", "frmPrintenTI"}) {
+            proef_->uitvoer.cmdPrinten_Click(*proef_->venster);
+            EXPECT_GE(kijk(*Venster(naam), false), 6) << naam;
+            proef_->vind<QCheckBox>("chkGemAlleLijnen").setChecked(true);
+        }
+        int gezien = 0;
+        const auto antwoord = [&gezien] {
+            auto* vak = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(vak, nullptr);
+            gezien = kijk(*vak, false);
+            vak->accept();
+        };
+        QMetaObject::invokeMethod(qApp, antwoord, Qt::QueuedConnection);
+        ToonMelding(proef_->venster.get(), {"Een bericht", Icoon::Uitroep});
+        EXPECT_EQ(gezien, 2); // its text and its button
+        const QPalette tip = QToolTip::palette();
+        EXPECT_GE(Contrast(tip.color(QPalette::ToolTipBase), tip.color(QPalette::ToolTipText)),
+                  genoeg);
     }
 
     /// Looks at every cell of the ranking; gives the colours of the letters.
@@ -152,6 +190,17 @@ protected:
 TEST_F(Contrastproef, EveryTextOfTheWindowStandsOut) {
     maakVenster();
     EXPECT_GE(kijk(*proef_->venster, true), 40);
+}
+
+TEST_F(Contrastproef, SoDoesThatOfTheOtherWindows) {
+    maakVenster();
+    kijkNaarAndere();
+}
+
+TEST_F(Contrastproef, AlsoInHighContrast) {
+    ZetStijl(*qApp, HoogContrastPalet(ZwartBureaublad()));
+    maakVenster();
+    kijkNaarAndere();
 }
 
 TEST_F(Contrastproef, TheCellsOfEveryLineDo) {

@@ -5,6 +5,7 @@
 #include <QHideEvent>
 #include <QScrollBar>
 
+#include "ui/bijvenster.h"
 #include "ui/klein_scherm.h"
 #include "vensterproef.h"
 
@@ -54,6 +55,33 @@ TEST_F(KleinSchermTest, MinimisingIsNotLeaving) {
     qApp->notify(proef.venster.get(), &weg);
     EXPECT_TRUE(scherm->isVisible());
     EXPECT_EQ(proef.einde, 0);
+}
+
+/// The window beside the main one: its minimum does not fit on the screen of the tests.
+class GrootBijvenster : public Bijvenster {
+public:
+    GrootBijvenster() {
+        setMinimumSize(3000, 300);
+        setWindowTitle(QStringLiteral("Bij"));
+    }
+};
+
+TEST_F(KleinSchermTest, AWindowBesideItScrollsToo) {
+    GrootBijvenster bij;
+    for (int keer = 0; keer < 2; ++keer) {
+        bij.toonOver(*proef.venster);
+        auto* buitenste = qobject_cast<KleinScherm*>(bij.window());
+        ASSERT_NE(buitenste, nullptr);
+        EXPECT_EQ(buitenste->windowTitle(), QStringLiteral("Bij"));
+        EXPECT_TRUE(bij.isVisible());
+        EXPECT_GE(bij.width(), 3000);
+        EXPECT_GT(buitenste->horizontalScrollBar()->maximum(), 0);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(buitenste));
+        QTest::keyClick(buitenste, Qt::Key_Escape);
+        EXPECT_FALSE(bij.isVisible());
+        EXPECT_FALSE(buitenste->isVisible());
+    }
+    EXPECT_TRUE(scherm->isVisible());
 }
 
 TEST_F(KleinSchermTest, EindeClosesBothAndSavesOnce) {

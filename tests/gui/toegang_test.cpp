@@ -108,6 +108,16 @@ TEST_F(ToegangVenster, TheGridHasTheTitleOfItsListAndReadsARow) {
     EXPECT_EQ(tabel->cellAt(0, 1)->text(QAccessible::Description), QString());
 }
 
+TEST_F(ToegangVenster, ASessionOfThePairIsSaidInWords) {
+    proef.typ("txt1_1", "0");
+    proef.klik("chkZitDetails");
+    proef.klik("cmd1_1");
+    auto* tabel = toegang("P21").tableInterface();
+    EXPECT_EQ(Naam(*tabel->cellAt(0, 6)), "60,000_24");
+    EXPECT_EQ(tabel->cellAt(0, 6)->text(QAccessible::Description).toStdString(),
+              "Ronde 1, zitting 1: 24 spellen, 60,000 %");
+}
+
 /// The preview of a list over three pages.
 class ToegangVoorbeeld : public UitvoerTest {
 protected:

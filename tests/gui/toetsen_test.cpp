@@ -109,22 +109,6 @@ TEST_F(Toetsen, WhatIsDisabledIsNoStop) {
     EXPECT_EQ(std::count(stops.begin(), stops.end(), "cmdPrinten"), 0);
 }
 
-/// For each stop of a window: its picture with the focus differs from that without.
-void ZietFocus(QWidget& venster) {
-    const Namen stops = Rondgang();
-    for (const auto& stop : stops) {
-        TabNaar(stop);
-        const QWidget& element = *QApplication::focusWidget();
-        const QWidget& gezien =
-            stop == "P21" || stop == "P11" || stop == "P1" ? *element.parentWidget() : element;
-        const QRect vak(gezien.mapTo(&venster, QPoint()), gezien.size());
-        const QImage met = Beeld(venster).copy(vak);
-        Toets(Qt::Key_Tab);
-        if (stops.size() == 1) QApplication::focusWidget()->clearFocus();
-        EXPECT_NE(Beeld(venster).copy(vak), met) << stop;
-    }
-}
-
 TEST_F(ToetsenVeleRonden, EveryStopShowsThatItHasTheFocus) {
     bereken();
     ZietFocus(*proef.venster);

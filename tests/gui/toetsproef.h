@@ -4,11 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLineEdit>
+#include <QPainter>
 #include <QTest>
 #include <QWindow>
 
 #include <string>
 #include <vector>
+
+#include "beeldproef.h"
 
 namespace lauwerkrans::proef {
 
@@ -48,6 +52,32 @@ inline void TabNaar(const std::string& naam) {
     for (int keer = 0; Focus() != naam && keer < meeste; ++keer)
         Toets(Qt::Key_Tab);
     ASSERT_EQ(Focus(), naam);
+}
+
+/// What shows the focus of a control: the border of a text box, for its cursor comes and goes, else
+/// all of it.
+inline QImage Focusbeeld(QWidget& venster, const QWidget& element, const QRect& vak) {
+    constexpr int rand = 2;
+    QImage beeld = Beeld(venster).copy(vak);
+    if (qobject_cast<const QLineEdit*>(&element) != nullptr)
+        QPainter(&beeld).fillRect(beeld.rect().adjusted(rand, rand, -rand, -rand), Qt::black);
+    return beeld;
+}
+
+/// For each stop of a window: its picture with the focus differs from that without.
+inline void ZietFocus(QWidget& venster) {
+    const std::vector<std::string> stops = Rondgang();
+    for (const auto& stop : stops) {
+        TabNaar(stop);
+        const QWidget& element = *QApplication::focusWidget();
+        const QWidget& gezien =
+            stop == "P21" || stop == "P11" || stop == "P1" ? *element.parentWidget() : element;
+        const QRect vak(gezien.mapTo(&venster, QPoint()), gezien.size());
+        const QImage met = Focusbeeld(venster, element, vak);
+        Toets(Qt::Key_Tab);
+        if (stops.size() == 1) QApplication::focusWidget()->clearFocus();
+        EXPECT_NE(Focusbeeld(venster, element, vak), met) << stop;
+    }
 }
 
 /// Waits until a window is in front.

@@ -186,6 +186,7 @@ TEST_F(VensterTest, WhatLiesBelowItsFrameOrWorksInSilenceIsNeverSeen) {
     proef.venster->resize(1600, 1200);
     QCoreApplication::processEvents();
     EXPECT_TRUE(proef.vind<QWidget>("HScroll1").visibleRegion().isEmpty());
+    EXPECT_TRUE(proef.vind<QWidget>("HScroll1").isHidden()) << "to a screen reader too";
 }
 
 TEST_F(VensterTest, TheListOfTheCompetitionIsYellowBoldAndLarge) {
