@@ -34,6 +34,12 @@ pakketten_beelden=(
   openbox         # a window manager, for maximising and for the outer size of a window
 )
 
+# The pictures of the manual, made anew by its writer.
+# shellcheck disable=SC2034
+pakketten_handleiding=(
+  imagemagick     # makes the pictures smaller
+)
+
 # What the tests look at the program's files with.
 # shellcheck disable=SC2034
 pakketten_toetsen=(
