@@ -2,22 +2,30 @@
 # The manual (docs/handleiding) as HTML: handleiding.sh VERSION FOLDER. The folder is made anew. A
 # link or a picture that leads nowhere is an error.
 #
-# handleiding.sh beelden: makes the manual's pictures, and those of README.md, again from the tour of
-# run.sh.
+# handleiding.sh beelden: makes the manual's pictures, and that of README.md, again by
+# tools/beelden.sh, with or without a display. They have two pixels for one, so that they stay sharp
+# on a screen at 150 or 200 %; the pages show them at their natural size.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+# shellcheck source=tools/pakketten.sh
+source tools/pakketten.sh
 
 bron=docs/handleiding
 
+# kopieer PICTURE FILE: of 256 colours, which the eye takes for the same at half the size; and the same
+# bytes from the same picture.
+kopieer() { convert "build/beelden/200/$1" -strip -dither None -colors 256 "PNG8:$2"; }
+
 beelden() {
-  env -u DISPLAY -u WAYLAND_DISPLAY ./run.sh
+  installeer handleiding
+  tools/beelden.sh 200
   local beeld
   rm -rf -- "$bron/beelden"
   mkdir -p "$bron/beelden"
   while read -r beeld; do
-    cp "build/demo/beelden/$beeld" "$bron/beelden/$beeld"
+    kopieer "$beeld" "$bron/beelden/$beeld"
   done < <(grep -ohE 'beelden/[^)]+\.png' "$bron"/*.md | sed 's|.*/||' | sort -u)
-  cp build/demo/beelden/02-alle-lijnen.png docs/beelden/hoofdvenster.png
+  kopieer 02-alle-lijnen.png docs/beelden/hoofdvenster.png
 }
 
 titel() { sed -n '1s/^# //p' "$bron/$1.md"; }
@@ -31,9 +39,20 @@ volgorde() {
 # verwijzing PAGE TEXT: nothing when there is no page.
 verwijzing() { [[ -z $1 ]] || printf '<a href="%s.html">%s</a>\n' "$1" "$2"; }
 
+# For sed: gives every picture its natural size. Bytes 16 to 23 of a PNG are width and height.
+maten() {
+  local beeld breedte hoogte
+  for beeld in "$bron"/beelden/*.png; do
+    read -r breedte hoogte < <(od -An -tu4 --endian=big -j16 -N8 "$beeld")
+    printf 's|<img src="beelden/%s"|& width="%d" height="%d"|\n' "$(basename "$beeld")" \
+      $((breedte / 2)) $((hoogte / 2))
+  done
+}
+
 # Headings get a name of their own, to which a link may lead.
 inhoud() {
-  cmark-gfm --extension table "$bron/$1.md" | sed -E 's/href="([a-z_]+)\.md/href="\1.html/g' |
+  cmark-gfm --extension table "$bron/$1.md" |
+    sed -E -e 's/href="([a-z_]+)\.md/href="\1.html/g' -e "$beeldmaten" |
     awk 'match($0, /^<h[23]>[^<]*</) {
       naam = tolower(substr($0, 5, RLENGTH - 5))
       gsub(/[^a-z0-9]+/, "-", naam)
@@ -90,7 +109,8 @@ maak() {
     return 1
   }
   local -a namen
-  local i
+  local i beeldmaten
+  beeldmaten=$(maten)
   mapfile -t namen < <(volgorde)
   rm -rf -- "$uit"
   mkdir -p "$uit"

@@ -34,6 +34,12 @@ pakketten_beelden=(
   openbox         # a window manager, for maximising and for the outer size of a window
 )
 
+# The pictures of the manual, made anew by its writer.
+# shellcheck disable=SC2034
+pakketten_handleiding=(
+  imagemagick     # makes the pictures smaller
+)
+
 # What the tests look at the program's files with.
 # shellcheck disable=SC2034
 pakketten_toetsen=(
@@ -47,7 +53,7 @@ pakketten_toegankelijkheid=(
   at-spi2-core    # the bus between programs and screen readers
   dbus-daemon     # a session of its own for it
   python3         # the listener is a Python program
-  python3-gi
+  python3-gi      # speaks for it to the libraries of the desktop
   gir1.2-atspi-2.0 # what it hears with
 )
 
@@ -91,8 +97,8 @@ pakketten_windows=(
   nsis            # makes the installer
   zip             # makes the portable package
   wine            # runs Windows programs
-  wine64
-  fonts-wine
+  wine64          # those of 64 bits
+  fonts-wine      # the letters of wine's own boxes
 )
 
 # What tries the installed program: a screen, a hand and a camera.
@@ -101,7 +107,7 @@ pakketten_windows_proef=(
   xvfb
   xdotool         # moves the mouse and types
   imagemagick     # takes pictures of the screen
-  unzip
+  unzip           # unpacks the demo
 )
 
 # The package for Linux: a menu's view of it, and a hand that closes the program.

@@ -19,6 +19,7 @@
 #include "tools/zwart_bureaublad.h"
 #include "ui/berichten.h"
 #include "ui/hoog_contrast.h"
+#include "ui/klein_scherm.h"
 #include "ui/ontwerp.h"
 #include "ui/stijl.h"
 #include "ui/taal.h"
@@ -56,6 +57,10 @@ public:
         bewaar("02-alle-lijnen");
         bewaarDeel("Frame4", "19-uitvoer");
         voerUit("frmPrinten", "13-voorbeeld-per-lijn");
+        vink("chkGemAlleLijnen");
+        druk("cmd1_0");
+        bewaar("25-ongeacht-de-lijn");
+        vink("chkGemAlleLijnen");
         vink("chkGewogen");
         vink("chkZitDetails");
         druk("cmd1_1");
@@ -93,6 +98,16 @@ public:
         bewaar("22-voorbeeld-buiten-mededinging");
         druk("cmd2_1");
         bewaar("23-voorbeeld-controle");
+    }
+
+    /// A laptop of 1366 x 768 at 150 % has this place within a window's frame.
+    void toonOpKleinScherm() {
+        vulMinima();
+        druk("cmd1_0");
+        KleinScherm scherm(venster_);
+        scherm.resize(910, 435);
+        scherm.show();
+        bewaarVenster(scherm, "26-klein-scherm");
     }
 
     void bewaar(const char* naam) { bewaarVenster(venster_, naam); }
@@ -210,6 +225,12 @@ bool ToonVoorbeeld(const QString& suite, const QString& beelden) {
     return rondleiding.klaar(1);
 }
 
+bool ToonKleinScherm(const QString& programmaMap, const QString& beelden) {
+    Rondleiding rondleiding(programmaMap, beelden);
+    rondleiding.toonOpKleinScherm();
+    return rondleiding.klaar(0);
+}
+
 /// One picture of the window as it starts on a program folder.
 bool ToonStart(const QString& programmaMap, const QString& beelden, const char* naam,
                std::size_t verwachteMeldingen) {
@@ -255,8 +276,9 @@ int main(int argc, char** argv) {
     Rondleiding rondleiding(woorden[1], woorden[2]);
     rondleiding.loopRond();
     const bool gelukt = rondleiding.klaar(4); // two lists, each as CSV and as HTML
-    return ToonAndereCompetities(woorden[1], woorden[2]) && ToonVoorbeeld(woorden[3], woorden[2]) &&
-                   gelukt
+    return ToonKleinScherm(woorden[1], woorden[2]) &&
+                   ToonAndereCompetities(woorden[1], woorden[2]) &&
+                   ToonVoorbeeld(woorden[3], woorden[2]) && gelukt
                ? 0
                : 1;
 }
