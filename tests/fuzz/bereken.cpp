@@ -1,4 +1,6 @@
 // The calculation on arbitrary rows: what it gives is what the plain calculation gives.
+#include <array>
+
 #include "kern/gevallen.h"
 
 #include "data/getallen.h"
@@ -28,6 +30,22 @@ private:
     const std::uint8_t* eind_;
 };
 
+/// A member: mostly one of few, so that pairs meet again, else one of the highest numbers.
+std::uint32_t MaakLid(Bron& bron) {
+    constexpr unsigned weinig = 99;
+    constexpr std::uint32_t hoogste = 99'999'999;
+    const unsigned nummer = bron.byte();
+    return nummer < 2 * weinig ? 1 + nummer % weinig : hoogste - (nummer - 2 * weinig);
+}
+
+/// The boards of a session: mostly as many as are played, else what a file may say too.
+std::int32_t MaakSpellen(Bron& bron) {
+    constexpr std::array<std::int32_t, 6> vreemd = {-1, -24, 32767, 32768, 99'999'999, -99'999'999};
+    constexpr unsigned gewoon = 250;
+    const unsigned aantal = bron.byte();
+    return aantal < gewoon ? static_cast<std::int32_t>(aantal) : vreemd.at(aantal - gewoon);
+}
+
 /// A row of a session that is played from now on.
 proef::Score MaakScore(Bron& bron, proef::Geval& geval) {
     proef::Score score;
@@ -37,9 +55,9 @@ proef::Score MaakScore(Bron& bron, proef::Geval& geval) {
     score.ronde = static_cast<std::uint8_t>(ronde + 1);
     score.zitting = static_cast<std::uint8_t>(zitting + 1);
     score.lijn = static_cast<char>('A' + bron.tot(static_cast<unsigned>(geval.criteria.size())));
-    score.lid1 = 1 + bron.tot(99);
-    score.lid2 = 1 + bron.tot(99);
-    score.spellen = static_cast<std::int32_t>(bron.byte());
+    score.lid1 = MaakLid(bron);
+    score.lid2 = MaakLid(bron);
+    score.spellen = MaakSpellen(bron);
     const unsigned vorm = bron.byte();
     score.bum = (vorm & 1U) != 0;
     score.percentage = bron.tekst(vorm >> 1U & 7U);

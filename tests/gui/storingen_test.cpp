@@ -42,6 +42,15 @@ public:
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     }
 
+    void doeVerder() override {
+        druk(*venster_, "cmdPrinten"); // the ranking, where there is one
+        druk(*venster_, "cmd2_0");
+        Vind<QLineEdit>(*venster_, "txtPersoon")->setText(QStringLiteral("mo"));
+        druk(*venster_, "cmdControleLijstLid");
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    }
+
     void sluit() override { venster_->close(); }
 
     [[nodiscard]] std::string lijst() const override {
@@ -65,6 +74,21 @@ public:
     }
 
 private:
+    /// Presses a button that can be pressed; of a preview that opens, those of the list files.
+    void druk(const QWidget& venster, const char* naam) {
+        auto* knop = Vind<QAbstractButton>(venster, naam);
+        if (!knop->isEnabled()) return;
+        knop->click();
+        QCoreApplication::processEvents();
+        for (QWidget* voorbeeld : QApplication::topLevelWidgets()) {
+            if (!voorbeeld->isVisible() || voorbeeld->objectName() != QLatin1String("frmPrinten"))
+                continue;
+            Vind<QAbstractButton>(*voorbeeld, "cmdMaakCSV")->click();
+            Vind<QAbstractButton>(*voorbeeld, "cmdMaakHtml")->click();
+            voorbeeld->close();
+        }
+    }
+
     void meld(const Melding& melding) {
         const auto antwoord = [this] {
             auto* vak = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

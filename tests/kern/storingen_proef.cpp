@@ -1,5 +1,6 @@
 #include "storingen_proef.h"
 
+#include <algorithm>
 #include <cctype>
 #include <fstream>
 #include <iostream>
@@ -91,6 +92,21 @@ void Proefbank::controleerMeldingen(Sessie& sessie, const std::vector<std::strin
     }
 }
 
+/// Each message is one that belongs to the fault or to the file, or says that a list was written.
+void Proefbank::controleerBekend(Sessie& sessie, const Suitebestand& bestand,
+                                 const Verwacht& verwacht, const std::string& reden) {
+    std::vector<std::string> bekend = {"\r\nHet CSV-bestand '*", "\r\nHet HTMLbestand heet: *"};
+    for (const auto& berichten : {bestand.berichten, verwacht.start, verwacht.bereken})
+        bekend.insert(bekend.end(), berichten.begin(), berichten.end());
+    for (const Melding& melding : sessie.neem()) {
+        const std::string tekst = suite_.zonderMap(melding.tekst);
+        EXPECT_LE(melding.tekst.size(), langsteMelding);
+        EXPECT_TRUE(std::any_of(bekend.begin(), bekend.end(), [&](const std::string& patroon) {
+            return Past(Ingevuld(patroon, reden), tekst);
+        })) << tekst;
+    }
+}
+
 void Proefbank::versBegin(const Suitebestand& bestand, const Verwacht& verwacht,
                           const std::string& reden) {
     const auto sessie = maak_(suite_);
@@ -102,6 +118,8 @@ void Proefbank::versBegin(const Suitebestand& bestand, const Verwacht& verwacht,
     sessie->bereken();
     controleerMeldingen(*sessie, verwacht.bereken, reden, "at \"Bereken\" after that start");
     EXPECT_EQ(sessie->lijst(), verwacht.lijst);
+    sessie->doeVerder();
+    controleerBekend(*sessie, bestand, verwacht, reden);
     sessie->sluit();
     controleerMeldingen(*sessie, verwacht.einde, reden, "at the end");
 }

@@ -27,6 +27,8 @@ public:
     virtual bool start() = 0;
     /// "Bereken" of all lines.
     virtual void bereken() = 0;
+    /// What else can be done with the list: control lists, a member, previews and list files.
+    virtual void doeVerder() {}
     /// Leaves the program.
     virtual void sluit() = 0;
     /// The list on show, as in Verwacht.
@@ -72,6 +74,8 @@ public:
 private:
     void controleerMeldingen(Sessie& sessie, const std::vector<std::string>& verwacht,
                              const std::string& reden, const char* moment);
+    void controleerBekend(Sessie& sessie, const Suitebestand& bestand, const Verwacht& verwacht,
+                          const std::string& reden);
     void versBegin(const Suitebestand& bestand, const Verwacht& verwacht, const std::string& reden);
 
     Suite suite_;

@@ -17,6 +17,13 @@ const Verwacht geenCompetitie = {{"U hebt nog geen competitie(-zitting) gekozen.
 const Verwacht zonderCriteria = {
     {}, {"Geef bij lijn A een heel getal als minimum aantal zittingen."}, geenLijst};
 
+// A name that no path can hold: Windows finds no such file, elsewhere it is an error.
+#ifdef _WIN32
+const std::string langeNaam = "Geen bestand met competitiegegevens aanwezig.\r\n";
+#else
+const std::string langeNaam = "Fout bij het inlezen van de competitiegegevens.\r\n";
+#endif
+
 const std::string begin = "ORVMAP=<map>\r\nCOMMAP=<map>\\Competities\r\nACTCOM=";
 
 } // namespace
@@ -29,8 +36,7 @@ std::vector<Storing> StoringenVanMappen() {
         {"no number", Vervang("ONELIN=2", "ONELIN=twee"), {}},
         {VanGroot("a name"),
          Groot(begin, "\r\n"),
-         {{"Fout bij het inlezen van de competitiegegevens.\r\n",
-           "Fout bij het inlezen van de rondegegevens.\r\n\r\n<map>/Competities/x* ..."},
+         {{langeNaam, "Fout bij het inlezen van de rondegegevens.\r\n\r\n<map>/Competities/x* ..."},
           {},
           ""}}};
     rijen.insert(rijen.end(), eigen.begin(), eigen.end());
