@@ -15,11 +15,10 @@ namespace lauwerkrans {
 
 namespace {
 
-// Places and sizes in twips; the frame takes 85 and the frame with the caption bar 440 of the outer
-// ones.
-constexpr double beginBreedte = 13000 - 85;
-constexpr double beginHoogte = 9000 - 440;
-constexpr double kleinsteBreedte = 6000;
+// Places and sizes in twips.
+constexpr double beginBreedte = 13000; // outer
+constexpr double beginHoogte = 9000;
+constexpr double kleinsteBreedte = 6000; // of the client area
 constexpr double kleinsteHoogte = 5000;
 constexpr double marge = 350; // right of and below the picture: a scroll bar and some room
 constexpr double schuifDikte = 255;
@@ -36,10 +35,6 @@ const std::array gedeeld = std::to_array<Ontwerp>({
     {Soort::SchuifHorizontaal, "HScroll1", "", {2640, 8210, 9925, 255}},
 });
 
-QSize Binnen(double breedte, double hoogte) {
-    return maten::Pixels({0, 0, breedte, hoogte}).size();
-}
-
 } // namespace
 
 Printvenster::Printvenster(const char* naam, std::span<const Ontwerp> ontwerp,
@@ -51,8 +46,8 @@ Printvenster::Printvenster(const char* naam, std::span<const Ontwerp> ontwerp,
     MaakElementen(*this, gedeeld);
     voorbeeld_ = new Voorbeeld(*this);
     GeefNamen(*this, {{"VScroll1", "Blad op en neer"}, {"HScroll1", "Blad opzij"}});
-    setMinimumSize(Binnen(kleinsteBreedte, kleinsteHoogte));
-    resize(Binnen(beginBreedte, beginHoogte));
+    setMinimumSize(maten::Pixels({0, 0, kleinsteBreedte, kleinsteHoogte}).size());
+    resize(maten::Binnenmaat(beginBreedte, beginHoogte));
     verbind("cmdMaakCSV", [this] { maakCSV(); });
     verbind("cmdMaakHtml", [this] { MaakHtml(uitvoer_); });
     verbind("cmdPrinten", [this] { cmdPrinten_Click(); });

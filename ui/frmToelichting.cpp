@@ -10,16 +10,10 @@ namespace lauwerkrans {
 
 namespace {
 
-// Outer sizes in twips; the frame takes 85 and the frame with the caption bar 440 of them.
-constexpr double rand = 85;
-constexpr double randEnBalk = 440;
+// Outer sizes in twips.
 constexpr double kleinste = 4000;
 constexpr double beginBreedte = 9600;
 constexpr double beginHoogte = 7640;
-
-QSize Binnen(double breedte, double hoogte) {
-    return maten::Pixels({0, 0, breedte - rand, hoogte - randEnBalk}).size();
-}
 
 } // namespace
 
@@ -34,14 +28,14 @@ frmToelichting::frmToelichting() : Text1(new QPlainTextEdit(this)) {
     Text1->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     Text1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Text1->setPlainText(ToelichtingTekst());
-    setMinimumSize(Binnen(kleinste, kleinste));
-    resize(Binnen(beginBreedte, beginHoogte));
+    setMinimumSize(maten::Binnenmaat(kleinste, kleinste));
+    resize(maten::Binnenmaat(beginBreedte, beginHoogte));
 }
 
 void frmToelichting::resizeEvent(QResizeEvent* gebeurtenis) {
     QWidget::resizeEvent(gebeurtenis);
-    const double breedte = maten::PixelsNaarTwips(width()) + rand;
-    const double hoogte = maten::PixelsNaarTwips(height()) + randEnBalk;
+    const double breedte = maten::PixelsNaarTwips(width()) + maten::kaderBreedte;
+    const double hoogte = maten::PixelsNaarTwips(height()) + maten::kaderHoogte;
     maten::Plaats(*Text1, {0, 0, breedte - 120, hoogte - 510});
 }
 

@@ -24,11 +24,13 @@ QRect Pixels(const Vak& twips) {
 }
 
 QSize Buitenmaat(QSize binnen) {
-    constexpr double rand = 85;
-    constexpr double randEnBalk = 440;
-    return Pixels({0, 0, PixelsNaarTwips(binnen.width()) + rand,
-                   PixelsNaarTwips(binnen.height()) + randEnBalk})
+    return Pixels({0, 0, PixelsNaarTwips(binnen.width()) + kaderBreedte,
+                   PixelsNaarTwips(binnen.height()) + kaderHoogte})
         .size();
+}
+
+QSize Binnenmaat(double breedte, double hoogte) {
+    return Pixels({0, 0, breedte - kaderBreedte, hoogte - kaderHoogte}).size();
 }
 
 QRect BinnenScherm(QRect buiten, const QRect& vrij) {

@@ -33,9 +33,15 @@ constexpr double mmPerPixel = 25.4 / 96.0;
 /// - top, so that what touches in twips touches in pixels.
 [[nodiscard]] QRect Pixels(const Vak& twips);
 
-/// The size of a window with its frame and title bar (85 x 440 twips on every system), from that of
-/// its client area; both in pixels.
+/// What a window's frame and title bar take of its outer size, on every system (twips).
+constexpr double kaderBreedte = 85;
+constexpr double kaderHoogte = 440;
+
+/// The size of a window with its frame and title bar, from that of its client area; both in pixels.
 [[nodiscard]] QSize Buitenmaat(QSize binnen);
+
+/// The client area of a window of this outer size (twips), in pixels.
+[[nodiscard]] QSize Binnenmaat(double breedte, double hoogte);
 
 /// A window's outer place, made smaller where the free area of the screen is smaller, and moved so
 /// that it lies wholly within that area; in pixels.

@@ -9,6 +9,7 @@
 
 #include "ui/celuitleg.h"
 #include "ui/paneel_P20.h"
+#include "ui/schuiver.h"
 
 namespace lauwerkrans {
 
@@ -94,8 +95,7 @@ bool PaneelP20::eventFilter(QObject* object, QEvent* gebeurtenis) {
 /// The mark moves by as many rows as the view does without Ctrl.
 bool PaneelP20::ctrlToets(int toets) {
     constexpr double alle = std::numeric_limits<double>::max();
-    const double blad =
-        std::max(1.0, std::floor((zichtHoogte() - rooster::kopHoogte) / rooster::rijHoogte) - 1);
+    const double blad = RijenPerBlad(*P21);
     switch (toets) {
     case Qt::Key_Up:
         verzetMarkering(-1);

@@ -32,10 +32,14 @@ bool Schuiver::eventFilter(QObject* object, QEvent* gebeurtenis) {
     return QObject::eventFilter(object, gebeurtenis);
 }
 
+double RijenPerBlad(const TabelLijf& lijf) {
+    const double zicht = lijf.mm(lijf.height()) - rooster::kopHoogte;
+    return std::max(1.0, std::floor(zicht / rooster::rijHoogte) - 1);
+}
+
 bool Schuiver::toets(int toets) {
     const auto rij = static_cast<int>(rooster::rijHoogte);
-    const double zicht = lijf_.mm(lijf_.height()) - rooster::kopHoogte;
-    const auto rijen = static_cast<int>(std::max(1.0, std::floor(zicht / rooster::rijHoogte) - 1));
+    const auto rijen = static_cast<int>(RijenPerBlad(lijf_));
     switch (toets) {
     case Qt::Key_Up:
         verschuif(-rij);

@@ -10,9 +10,12 @@
 
 namespace lauwerkrans {
 
+/// How many rows a page of a body is: the visible ones less one, at least one.
+[[nodiscard]] double RijenPerBlad(const TabelLijf& lijf);
+
 /// Listens to a body and its scroll bars. Wheel: three rows a notch, sideways with Shift. Keys in
-/// the body: arrows a row or a small step sideways, Page Up and Page Down the visible rows less
-/// one, Home and End; with Shift the Page keys, Home and End go sideways.
+/// the body: arrows a row or a small step sideways, Page Up and Page Down a page,
+/// Home and End; with Shift the Page keys, Home and End go sideways.
 class Schuiver : public QObject {
     Q_OBJECT
 public:

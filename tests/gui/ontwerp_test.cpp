@@ -56,7 +56,7 @@ const std::vector<Verwacht>& Alle() {
         {Is::Knop, "cmd10_0", "P12", {0, 0, 1095, 255}, "...", "", zwart, grijs, false, 11, false, false},
         {Is::Lijf, "P11", "P10", {0, 0, 2535, 1095}, "", "", zwart, geel},
         {Is::Staand, "VScroll10", "Frame1", {4080, 720, 255, 1095}},
-        {Is::Liggend, "HScroll1", "Frame1", {0, 3480, 9375, 255}},
+        {Is::Liggend, "HScroll1", "Frame1", {0, 3480, 9375, 255}, "", "", zwart, grijs, false, 11, false, false},
         {Is::Label, "Label1", "Frame1", {120, 240, 4335, 375}, "Label1", "", blauw, grijs, true, 16, true},
         {Is::Kader, "Frame3", "", {120, 2640, 4455, 3495}, "Criteria en berekenen", "", blauw, grijs, true},
         {Is::Label, "Label3", "Frame3", {720, 285, 1575, 495}, "Minimum aantal zittingen*", "", rood, grijs, true, 11, true},
