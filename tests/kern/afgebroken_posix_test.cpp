@@ -24,7 +24,7 @@ class Afgebroken : public proef::UitvoerTest {
 protected:
     /// Writes all three files, this one first, with a heading that says which version they are.
     void schrijf(char letter, std::size_t lengte, int eerste) {
-        uitvoer.KopTekst = std::string(lengte, letter);
+        uitvoer.KopTekst.assign(lengte, letter);
         for (int i = 0; i < 3; ++i) {
             const int welk = (eerste + i) % 3;
             if (welk == 0) schrijfInstellingen();
