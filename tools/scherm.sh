@@ -7,12 +7,12 @@ stop() {
   [[ -z $1 ]] || wait "$1" 2>/dev/null || true
 }
 
-# start_scherm FOLDER: starts an X server on a free display, and a window manager on it that is
-# ready when this returns. DISPLAY names the screen from then on; their files stand in the folder.
-start_scherm() {
-  local map=$1 nummer=''
+# start_x FOLDER SIZE: starts an X server on a free display, of SIZE (1300x850) pixels. DISPLAY names
+# it from then on; its files stand in the folder.
+start_x() {
+  local map=$1 maat=$2 nummer=''
   mkfifo "$map/nummer"
-  Xvfb -displayfd 3 -screen 0 1600x1200x24 -dpi 96 3>"$map/nummer" 2>"$map/xvfb.log" &
+  Xvfb -displayfd 3 -screen 0 "${maat}x24" -dpi 96 3>"$map/nummer" 2>"$map/xvfb.log" &
   xvfb_pid=$!
   if ! read -r -t 60 nummer <"$map/nummer"; then
     echo "Xvfb start niet:" >&2
@@ -20,6 +20,12 @@ start_scherm() {
     return 1
   fi
   export DISPLAY=:$nummer
+}
+
+# start_scherm FOLDER: the same, with a window manager on it that is ready when this returns.
+start_scherm() {
+  local map=$1
+  start_x "$map" 1600x1200 || return 1
   openbox --sm-disable --startup "touch '$map/klaar'" &>"$map/openbox.log" &
   openbox_pid=$!
   local keer

@@ -14,24 +14,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 source tools/pakketten.sh
 # shellcheck source=packaging/bouwpaden.sh
 source packaging/bouwpaden.sh
-
-titel='Bereken de Club- cq Lijnkampioenen van een parencompetitie.'
-
-mislukt() {
-  echo "Mislukt: $1" >&2
-  exit 1
-}
-
-# wacht DOING COMMAND...: until the command succeeds, at most half a minute.
-wacht() {
-  local wat=$1 keer
-  shift
-  for ((keer = 0; keer < 300; ++keer)); do
-    ! "$@" >/dev/null 2>&1 || return 0
-    sleep 0.1
-  done
-  mislukt "$wat"
-}
+# shellcheck source=packaging/proef.sh
+source packaging/proef.sh
+# shellcheck source=tools/scherm.sh
+source tools/scherm.sh
 
 controleer_programma() {
   local kop pakketten pakket bibliotheek
@@ -62,22 +48,9 @@ controleer_map() {
 
 # shellcheck disable=SC2317 # called by the trap
 ruim_op() {
-  local pid
-  for pid in "${programma_pid:-}" "${openbox_pid:-}" "${xvfb_pid:-}"; do
-    [[ -z $pid ]] || kill "$pid" 2>/dev/null || true
-  done
+  stop "${programma_pid:-}"
+  stop_scherm
   rm -rf -- "$werk"
-}
-
-start_scherm() {
-  Xvfb -displayfd 1 -screen 0 1300x850x24 >"$werk/scherm" 2>"$werk/xvfb.log" &
-  xvfb_pid=$!
-  wacht 'het scherm in het geheugen' test -s "$werk/scherm"
-  DISPLAY=:$(<"$werk/scherm")
-  export DISPLAY
-  openbox --sm-disable --startup "touch '$werk/klaar'" &>"$werk/openbox.log" &
-  openbox_pid=$!
-  wacht 'de vensterbeheerder' test -e "$werk/klaar"
 }
 
 controleer_snelkoppeling() {
@@ -95,14 +68,14 @@ controleer_snelkoppeling() {
 start_en_sluit() {
   (cd / && QT_QPA_PLATFORM=xcb gio launch "$snelkoppeling") &>"$werk/programma.log" ||
     mislukt "starten uit het menu: $(<"$werk/programma.log")"
-  wacht 'starten uit het menu' xdotool search --onlyvisible --name "^$titel\$"
-  programma_pid=$(xdotool search --onlyvisible --name "^$titel\$" getwindowpid)
+  wacht 'starten uit het menu' zoek_venster "$titel"
+  programma_pid=$(zoek_venster "$titel" getwindowpid)
   [[ $(readlink "/proc/$programma_pid/exe") == "$map/Lauwerkrans.bin" ]] ||
     mislukt 'er is een ander programma gestart'
   # By this class the desktop knows whose window it is.
   xdotool search --class "^$(sed -n 's/^StartupWMClass=//p' "$snelkoppeling")\$" >/dev/null ||
     mislukt 'het venster heeft een andere naam dan in het menu'
-  xdotool search --onlyvisible --name "^$titel\$" windowactivate --sync
+  zoek_venster "$titel" windowactivate --sync
   xdotool key alt+F4 # to whoever has the focus: the window manager takes it
   wacht 'sluiten' test ! -e "/proc/$programma_pid"
   programma_pid=''
@@ -141,7 +114,7 @@ export HOME=$werk/thuis XDG_RUNTIME_DIR=$werk
 unset XDG_DATA_HOME WAYLAND_DISPLAY
 snelkoppeling=$HOME/.local/share/applications/Lauwerkrans.desktop
 mkdir "$HOME"
-start_scherm
+start_scherm "$werk"
 controleer_snelkoppeling
 start_en_sluit
 controleer_bijwerken

@@ -11,6 +11,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 source tools/pakketten.sh
 # shellcheck source=packaging/windows/wine.sh
 source packaging/windows/wine.sh
+# shellcheck source=packaging/proef.sh
+source packaging/proef.sh
+# shellcheck source=tools/scherm.sh
+source tools/scherm.sh
 
 linux=${1:+$(realpath "$1")}
 uit=$PWD/build/windows
@@ -20,32 +24,13 @@ suite=$uit/proef/Lauwerkrans-demo
 map=$suite/Lauwerkrans
 lijsten=$map/Lauwerkrans
 sleutel='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Lauwerkrans'
-titel='Bereken de Club- cq Lijnkampioenen van een parencompetitie.'
 
-mislukt() {
-  foto mislukt || true
-  echo "Mislukt: $1" >&2
-  exit 1
-}
-
-# wacht DOING COMMAND...: until the command succeeds, at most half a minute.
-wacht() {
-  local wat=$1 keer
-  shift
-  for ((keer = 0; keer < 300; ++keer)); do
-    ! "$@" >/dev/null 2>&1 || return 0
-    sleep 0.1
-  done
-  mislukt "$wat"
-}
 niet() { ! "$@"; }
 
 foto() { import -window root "$beelden/$1.png"; }
 
 # One wine desktop for all, so that the windows see each other and have title bars.
 start() { wine explorer /desktop=proef,1300x850 "$@" </dev/null >/dev/null 2>&1 & }
-
-heeft_venster() { xdotool search --name "^$1\$"; }
 
 # klik X Y: in pixels of the screen. The main window and a preview open in its middle.
 klik() {
@@ -68,8 +53,10 @@ wacht_verwijderd() {
 
 # shellcheck disable=SC2317 # called by the trap
 ruim_op() {
+  local status=$?
+  ((status == 0)) || foto mislukt || true
   eind_wine
-  kill "$xvfb" 2>/dev/null || true
+  stop_scherm
 }
 
 installeer windows windows_proef scherm
@@ -80,15 +67,8 @@ mkdir -p "$uit/proef" "$beelden"
 unzip -q "$demo" -d "$uit/proef"
 rm -r "$map"
 
-Xvfb -displayfd 1 -screen 0 1300x850x24 >"$uit/proef/scherm" 2>/dev/null &
-xvfb=$!
-trap 'kill "$xvfb"' EXIT
-for ((keer = 0; keer < 100; ++keer)); do
-  [[ ! -s $uit/proef/scherm ]] || break
-  sleep 0.1
-done
-DISPLAY=:$(<"$uit/proef/scherm")
-export DISPLAY
+trap stop_scherm EXIT
+start_x "$uit/proef" 1300x850
 begin_wine "$uit/wine_proef"
 trap ruim_op EXIT
 unset WINEQT_QPA_PLATFORM # the real one
@@ -106,15 +86,15 @@ wacht 'installeren' wine reg query "$sleutel" /v EstimatedSize
 
 cd "$map" # as the start menu does
 start Lauwerkrans.exe
-wacht 'starten' heeft_venster "$titel"
+wacht 'starten' zoek_venster "$titel"
 sleep 1
 foto 1-gestart
 
 start Lauwerkrans.exe
-wacht 'de weigering van een tweede exemplaar' heeft_venster Lauwerkrans
+wacht 'de weigering van een tweede exemplaar' zoek_venster Lauwerkrans
 foto 2-tweede
 xdotool key Return
-wacht 'het sluiten van de weigering' niet heeft_venster Lauwerkrans
+wacht 'het sluiten van de weigering' niet zoek_venster Lauwerkrans
 
 minimum=(13 10 8)
 for lijn in 0 1 2; do
@@ -127,7 +107,7 @@ klik 389 442 # "Bereken" of "Alle"
 sleep 1
 foto 3-berekend
 klik 912 645 # "Uitvoerlijsten ..."
-wacht 'het afdrukvoorbeeld' heeft_venster Zittinguitslag
+wacht 'het afdrukvoorbeeld' zoek_venster Zittinguitslag
 sleep 1
 foto 4-voorbeeld
 klik 300 396 # "MaakCSV"
@@ -151,20 +131,20 @@ fi
 rm "$map/Leesmij.txt"
 wine reg delete "$sleutel" /v EstimatedSize /f </dev/null >/dev/null
 start "$(windows_pad "$installateur")" /S "/D=$(windows_pad "$suite")"
-wacht 'het sluiten voor een nieuwe versie' niet heeft_venster "$titel"
+wacht 'het sluiten voor een nieuwe versie' niet zoek_venster "$titel"
 wacht 'de nieuwe versie' wine reg query "$sleutel" /v EstimatedSize
 [[ -f $map/Leesmij.txt ]] || mislukt 'de nieuwe versie is niet compleet'
 grep -q '^__TXT1=13' "$map/Lauwr.ini" || mislukt 'de instellingen zijn niet bewaard'
 [[ -s $lijsten/Lauwr__LijnABC.CSV ]] || mislukt 'de lijst is weg'
 start Lauwerkrans.exe
-wacht 'starten van de nieuwe versie' heeft_venster "$titel"
+wacht 'starten van de nieuwe versie' zoek_venster "$titel"
 sleep 1
 foto 7-bijgewerkt
 
 # Removal asks the running copy to close too; what is the user's own stays.
 cd "$suite"
 start "$(windows_pad "$map/verwijderen.exe")" /S
-wacht 'het sluiten voor het verwijderen' niet heeft_venster "$titel"
+wacht 'het sluiten voor het verwijderen' niet zoek_venster "$titel"
 wacht_verwijderd
 over=$(cd "$map" && find . -type f | LC_ALL=C sort | tr '\n' ' ')
 [[ $over == './Lauwerkrans/Lauwr__LijnABC.CSV ./Lauwerkrans/Lauwr__LijnABC.HTML ./Lauwr.ini ' ]] ||
@@ -175,7 +155,7 @@ foto 8-verwijderd
 start "$(windows_pad "$installateur")" /S "/D=$(windows_pad "$suite")"
 wacht 'nog eens installeren' wine reg query "$sleutel" /v EstimatedSize
 start "$(windows_pad "$map/verwijderen.exe")"
-wacht 'de vraag wat er weg mag' heeft_venster 'Lauwerkrans-de.*'
+wacht 'de vraag wat er weg mag' zoek_venster 'Lauwerkrans-de.*'
 sleep 1
 klik 587 421 # "Instellingen en lijsten"
 foto 9-vinkje
