@@ -2,6 +2,9 @@
 # The manual (docs/handleiding) as HTML: handleiding.sh VERSION FOLDER. The folder is made anew. A
 # link or a picture that leads nowhere is an error.
 #
+# handleiding.sh controleer VERSION FOLDER: the same look at a folder that was made before, as it lies
+# in a package: every page is there, of that version, and leads to what is there. Says what is wrong.
+#
 # handleiding.sh beelden: makes the manual's pictures, and that of README.md, again by
 # tools/beelden.sh, with or without a display. They have two pixels for one, so that they stay sharp
 # on a screen at 150 or 200 %; the pages show them at their natural size.
@@ -88,19 +91,28 @@ KOP
   echo '</html>'
 }
 
-# Every link of every page leads to a file beside it and, behind a "#", to a heading in there.
-controleer() {
+# verwijzingen_kloppen: every link of every page leads to a file beside it and, behind a "#", to a
+# heading in there.
+verwijzingen_kloppen() {
   local pagina doel bestand anker fouten=0
   while IFS=: read -r pagina doel; do
     bestand=${doel%%#*}
     anker=${doel#"$bestand"}
-    bestand=${bestand:-$(basename "$pagina")}
+    bestand=${bestand:-$pagina}
     [[ -f $uit/$bestand ]] && { [[ -z $anker ]] || grep -qF "id=\"${anker#\#}\"" "$uit/$bestand"; } &&
       continue
     echo "$pagina: $doel leidt nergens heen." >&2
     fouten=$((fouten + 1))
-  done < <(grep -oE '(href|src)="[^"]*"' "$uit"/*.html | sed -E 's/(href|src)="([^"]*)"/\2/')
+  done < <(cd "$uit" && grep -HoE '(href|src)="[^"]*"' -- *.html | sed -E 's/(href|src)="([^"]*)"/\2/')
   ((fouten == 0))
+}
+
+controleer() {
+  local ander
+  [[ -f $uit/index.html ]] || { echo "Er is geen $uit/index.html." >&2; return 1; }
+  ander=$(cd "$uit" && grep -LF "<footer>Lauwerkrans $versie</footer>" -- *.html) || true
+  [[ -z $ander ]] || printf 'Niet van versie %s:\n%s\n' "$versie" "$ander" >&2
+  verwijzingen_kloppen && [[ -z $ander ]]
 }
 
 maak() {
@@ -124,11 +136,15 @@ maak() {
 
 if [[ $# == 1 && $1 == beelden ]]; then
   beelden
+elif [[ $# == 3 && $1 == controleer ]]; then
+  versie=$2
+  uit=$3
+  controleer
 elif (($# == 2)); then
   versie=$1
   uit=$2
   maak
 else
-  echo 'Gebruik: handleiding.sh VERSIE MAP of handleiding.sh beelden' >&2
+  echo 'Gebruik: handleiding.sh [controleer] VERSIE MAP of handleiding.sh beelden' >&2
   exit 2
 fi

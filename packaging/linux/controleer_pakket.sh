@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # controleer_pakket.sh PACKAGE: unpacks the package for Linux into the suite of a demo club, in a
 # folder with a name that is hard to quote, and sees that
+# - the manual is whole and of this version;
 # - the program is stripped, names no folder of the building machine and looks for no libraries in a
 #   folder of its own; every library that it asks for comes from a package that Leesmij.txt names;
 # - the user's menu gets an entry that is correct and from which the program starts, on a screen in
@@ -38,10 +39,10 @@ controleer_map() {
   for deel in Lauwerkrans.bin installeer.sh; do
     [[ -x $map/$deel ]] || mislukt "$deel ontbreekt of is niet uit te voeren"
   done
-  for deel in Leesmij.txt CHANGELOG.txt handleiding/index.html licenties/{qt6-base,gcc,LGPL-3,GPL-3}.txt; do
+  for deel in Leesmij.txt CHANGELOG.txt licenties/{qt6-base,gcc,LGPL-3,GPL-3}.txt; do
     [[ -s $map/$deel ]] || mislukt "$deel ontbreekt"
   done
-  grep -qF "Lauwerkrans $versie" "$map/handleiding/index.html" || mislukt "de handleiding is niet van $versie"
+  tools/handleiding.sh controleer "$versie" "$map/handleiding" || mislukt 'de handleiding deugt niet'
   ! grep '@' "$map/Leesmij.txt" || mislukt 'Leesmij.txt is niet ingevuld'
   ! tar -tzf "$pakket" | grep -v '^Lauwerkrans/' || mislukt 'het pakket raakt meer dan de eigen map'
 }

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# controleer_pakket.sh FOLDER PROGRAM VERSION: looks into all programs and DLLs below a folder, as they are
-# packed. Says everything that is wrong, and fails then:
+# controleer_pakket.sh FOLDER PROGRAM VERSION: looks into the manual and all programs and DLLs below a
+# folder, as they are packed. Says everything that is wrong, and fails then:
 # - a DLL is imported that is neither there nor one of Windows, or one lies there that nothing
 #   imports (plugins lie in sub-folders and are loaded by name);
 # - a file lacks a mark of hardening: any address, also above 4 GB, and no running of data;
 # - the program opens a console, or lacks its picture, this version or its manifest;
+# - the manual is not whole, or not of this version;
 # - a file names a folder of the building machine.
 set -euo pipefail
 map=$(realpath "$1")
@@ -80,6 +81,7 @@ else
   controleer_invoer
   controleer_hardheid
   controleer_programma
+  tools/handleiding.sh controleer "$versie" "$map/handleiding" || meld "De handleiding deugt niet."
   zonder_bouwpaden "$map" || meld "Dat hoort niet in een pakket."
 fi
 ((fouten == 0)) || exit 1
