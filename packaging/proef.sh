@@ -24,3 +24,11 @@ wacht() {
 # zoek_venster TITLE [COMMAND...]: the windows on show with that title, or what xdotool's command says
 # of them. Fails when there is none.
 zoek_venster() { xdotool search --onlyvisible --name "^$1\$" "${@:2}"; }
+
+# sluit_programma PID FOLDER: as the user does with the keyboard, once the main window has the focus.
+# Back when the program has ended, with its settings in FOLDER, its own.
+sluit_programma() {
+  xdotool key alt+F4
+  wacht 'sluiten' test ! -e "/proc/$1"
+  [[ -s $2/Lauwr.ini ]] || mislukt 'de instellingen zijn niet bewaard'
+}

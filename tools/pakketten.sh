@@ -101,13 +101,13 @@ pakketten_windows=(
   fonts-wine      # the letters of wine's own boxes
 )
 
-# What tries the installed program: a screen, a hand and a camera.
+# What tries the packages for Windows: a screen, a hand and a camera.
 # shellcheck disable=SC2034
 pakketten_windows_proef=(
   xvfb
   xdotool         # moves the mouse and types
   imagemagick     # takes pictures of the screen
-  unzip           # unpacks the demo
+  unzip           # unpacks the ZIPs
 )
 
 # The package for Linux: a menu's view of it, and a hand that closes the program.

@@ -77,10 +77,8 @@ start_en_sluit() {
   xdotool search --class "^$(sed -n 's/^StartupWMClass=//p' "$snelkoppeling")\$" >/dev/null ||
     mislukt 'het venster heeft een andere naam dan in het menu'
   zoek_venster "$titel" windowactivate --sync
-  xdotool key alt+F4 # to whoever has the focus: the window manager takes it
-  wacht 'sluiten' test ! -e "/proc/$programma_pid"
+  sluit_programma "$programma_pid" "$map"
   programma_pid=''
-  [[ -s $map/Lauwr.ini ]] || mislukt 'de instellingen zijn niet bewaard'
 }
 
 controleer_bijwerken() {

@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# The installed program as a user meets it, under wine on a screen in memory: installs into the demo
-# suite, starts, calculates, exports, is refused a second time, is closed by an upgrade, and is taken
-# away again, without and with what is the user's own. Needs what bouw.sh made. Pictures of the steps stay in build/windows/beelden/.
+# The packages as a user meets them, under wine on a screen in memory. The demo is started as it is
+# unpacked, and the program of the ordinary ZIP in the demo's suite. The installer installs into that
+# suite; its program starts, calculates, exports, is refused a second time, is closed by an upgrade, and
+# is taken away again, without and with what is the user's own. Needs what bouw.sh made. Pictures of the
+# steps stay in build/windows/beelden/.
 #
 # proef.sh [FOLDER]: FOLDER holds what the tour of run.sh left on Linux; the lists of the two systems
 # are compared byte by byte.
@@ -24,18 +26,36 @@ suite=$uit/proef/Lauwerkrans-demo
 map=$suite/Lauwerkrans
 lijsten=$map/Lauwerkrans
 sleutel='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Lauwerkrans'
+beeld=0
 
 niet() { ! "$@"; }
 
-foto() { import -window root "$beelden/$1.png"; }
+# foto NAME: the next picture of the screen.
+foto() { import -window root "$beelden/$((++beeld))-$1.png"; }
 
 # One wine desktop for all, so that the windows see each other and have title bars.
 start() { wine explorer /desktop=proef,1300x850 "$@" </dev/null >/dev/null 2>&1 & }
+
+# start_programma DOING: from its own folder, as Windows does at a double click or from the start menu.
+start_programma() {
+  (cd "$map" && start Lauwerkrans.exe)
+  wacht "$1" zoek_venster "$titel"
+  sleep 1 # until it is drawn
+}
 
 # klik X Y: in pixels of the screen. The main window and a preview open in its middle.
 klik() {
   xdotool mousemove "$1" "$2" click 1
   sleep 0.5
+}
+
+# probeer_zip NAME: starts the program that was unpacked from NAME, closes it, and takes its folder
+# away.
+probeer_zip() {
+  start_programma "starten uit $1.zip"
+  foto "$1"
+  sluit_programma "$(zoek_venster "$titel" getwindowpid)" "$map"
+  rm -r "$map"
 }
 
 # zelfde KIND: CSV or HTML.
@@ -61,11 +81,10 @@ ruim_op() {
 
 installeer windows windows_proef scherm
 installateur=$(find "$pakketten" -name '*-installeren.exe')
+zip=$(find "$pakketten" -name '*-windows.zip')
 demo=$(find "$pakketten" -name '*-windows-demo.zip')
 rm -rf -- "$uit/proef" "$uit/wine_proef" "$beelden"
 mkdir -p "$uit/proef" "$beelden"
-unzip -q "$demo" -d "$uit/proef"
-rm -r "$map"
 
 trap stop_scherm EXIT
 start_x "$uit/proef" 1300x850
@@ -80,19 +99,22 @@ eind_wine # they count from the next start
 wineserver --wait
 wineserver -p
 
+unzip -q "$demo" -d "$uit/proef"
+probeer_zip windows-demo
+unzip -q "$zip" -d "$suite"
+probeer_zip windows
+
 start "$(windows_pad "$installateur")" /S "/D=$(windows_pad "$suite")"
 wacht 'installeren' wine reg query "$sleutel" /v EstimatedSize
 [[ -f $map/Lauwerkrans.exe && -f $map/verwijderen.exe ]] || mislukt 'het programma staat er niet'
 
-cd "$map" # as the start menu does
-start Lauwerkrans.exe
-wacht 'starten' zoek_venster "$titel"
-sleep 1
-foto 1-gestart
+start_programma 'starten'
+foto gestart
 
-start Lauwerkrans.exe
+(cd "$map" && start Lauwerkrans.exe)
 wacht 'de weigering van een tweede exemplaar' zoek_venster Lauwerkrans
-foto 2-tweede
+sleep 1
+foto tweede
 xdotool key Return
 wacht 'het sluiten van de weigering' niet zoek_venster Lauwerkrans
 
@@ -105,21 +127,21 @@ klik 868 610 # the heading that the tour uses
 xdotool type 'Kampioenen van de voorjaarscompetitie'
 klik 389 442 # "Bereken" of "Alle"
 sleep 1
-foto 3-berekend
+foto berekend
 klik 912 645 # "Uitvoerlijsten ..."
 wacht 'het afdrukvoorbeeld' zoek_venster Zittinguitslag
 sleep 1
-foto 4-voorbeeld
+foto voorbeeld
 klik 300 396 # "MaakCSV"
 wacht 'het CSV-bestand' test -s "$lijsten/Lauwr__LijnABC.CSV"
 sleep 1
-foto 5-csv
+foto csv
 xdotool key Return
 sleep 0.5
 klik 300 430 # "MaakHTML"
 wacht 'het HTML-bestand' test -s "$lijsten/Lauwr__LijnABC.HTML"
 sleep 1
-foto 6-html
+foto html
 xdotool key Return
 if [[ -n $linux ]]; then
   zelfde CSV
@@ -136,20 +158,17 @@ wacht 'de nieuwe versie' wine reg query "$sleutel" /v EstimatedSize
 [[ -f $map/Leesmij.txt ]] || mislukt 'de nieuwe versie is niet compleet'
 grep -q '^__TXT1=13' "$map/Lauwr.ini" || mislukt 'de instellingen zijn niet bewaard'
 [[ -s $lijsten/Lauwr__LijnABC.CSV ]] || mislukt 'de lijst is weg'
-start Lauwerkrans.exe
-wacht 'starten van de nieuwe versie' zoek_venster "$titel"
-sleep 1
-foto 7-bijgewerkt
+start_programma 'starten van de nieuwe versie'
+foto bijgewerkt
 
 # Removal asks the running copy to close too; what is the user's own stays.
-cd "$suite"
 start "$(windows_pad "$map/verwijderen.exe")" /S
 wacht 'het sluiten voor het verwijderen' niet zoek_venster "$titel"
 wacht_verwijderd
 over=$(cd "$map" && find . -type f | LC_ALL=C sort | tr '\n' ' ')
 [[ $over == './Lauwerkrans/Lauwr__LijnABC.CSV ./Lauwerkrans/Lauwr__LijnABC.HTML ./Lauwr.ini ' ]] ||
   mislukt "na verwijderen staat er: $over"
-foto 8-verwijderd
+foto verwijderd
 
 # Once more, with the tick at what is the user's own: nothing stays.
 start "$(windows_pad "$installateur")" /S "/D=$(windows_pad "$suite")"
@@ -158,12 +177,12 @@ start "$(windows_pad "$map/verwijderen.exe")"
 wacht 'de vraag wat er weg mag' zoek_venster 'Lauwerkrans-de.*'
 sleep 1
 klik 587 421 # "Instellingen en lijsten"
-foto 9-vinkje
+foto vinkje
 klik 762 580 # "Verwijderen"
 wacht_verwijderd
 wacht 'het opruimen van de map' niet test -e "$map"
 [[ -s $suite/Mappen.ini ]] || mislukt 'de administratie is geraakt'
 sleep 1
-foto 10-alles-verwijderd
-echo "Het geïnstalleerde programma doet wat het moet; beelden in $beelden:"
+foto alles-verwijderd
+echo "De pakketten voor Windows doen wat ze moeten; beelden in $beelden:"
 ls -v "$beelden"
