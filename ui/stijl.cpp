@@ -79,6 +79,23 @@ public:
         return QProxyStyle::styleHint(wens, optie, element, antwoord);
     }
 
+    /// The slider of a scroll bar stands out from what it slides in.
+    void drawComplexControl(ComplexControl deel, const QStyleOptionComplex* optie,
+                            QPainter* schilder, const QWidget* element) const override {
+        const auto* schuif = qstyleoption_cast<const QStyleOptionSlider*>(optie);
+        if (deel != CC_ScrollBar || schuif == nullptr || hoogContrast_) {
+            QProxyStyle::drawComplexControl(deel, optie, schilder, element);
+            return;
+        }
+        QStyleOptionSlider een(*schuif);
+        een.subControls &= ~SC_ScrollBarSlider;
+        QProxyStyle::drawComplexControl(deel, &een, schilder, element);
+        een.subControls = schuif->subControls & SC_ScrollBarSlider;
+        een.palette.setColor(QPalette::Active, QPalette::Button, kleuren::rand);
+        een.palette.setColor(QPalette::Inactive, QPalette::Button, kleuren::rand);
+        QProxyStyle::drawComplexControl(deel, &een, schilder, element);
+    }
+
     void drawPrimitive(PrimitiveElement deel, const QStyleOption* optie, QPainter* schilder,
                        const QWidget* element) const override {
         QProxyStyle::drawPrimitive(deel, optie, schilder, element);

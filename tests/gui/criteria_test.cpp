@@ -92,6 +92,16 @@ TEST_F(CriteriaTest, TypingReplacesWhatABoxHeld) {
     EXPECT_EQ(tekst("txt1_1"), QStringLiteral("9"));
 }
 
+/// The way to mend a slip of the finger, for there is no Backspace.
+TEST_F(CriteriaTest, ADoubleClickLetsTheNumberBeTypedAgain) {
+    proef.typ("txt1_1", "137");
+    auto& vak = proef.vind<QWidget>("txt1_1");
+    QTest::mouseDClick(&vak, Qt::LeftButton);
+    QTest::keyClick(&vak, '1');
+    QTest::keyClick(&vak, '3');
+    EXPECT_EQ(tekst("txt1_1"), QStringLiteral("13"));
+}
+
 TEST_F(CriteriaTest, TwentyOneGivesTheMessageAndTheFocusBack) {
     proef.typ("txt1_2", "21");
     QTest::keyClick(&proef.vind<QWidget>("txt1_2"), Qt::Key_Tab);

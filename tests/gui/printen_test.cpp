@@ -8,6 +8,9 @@
 #include "output/afdruk.h"
 #include "output/bladindeling_lijnen.h"
 #include "output/bladindeling_totaal.h"
+#ifndef _WIN32
+#include "kern/schrijfproef_posix.h"
+#endif
 #include "voorbeeldproef.h"
 
 namespace lauwerkrans::proef {
@@ -216,6 +219,20 @@ TEST_F(Printen, APdfThatCannotBeWrittenIsSaidAndTheOldOneStays) {
     EXPECT_EQ(venster.uitvoer().fout, 1);
     EXPECT_TRUE(std::filesystem::is_directory(pad("lijst.pdf")));
 }
+
+#ifndef _WIN32
+TEST_F(Printen, APdfThatCannotGrowIsSaidAndLeavesNothing) {
+    toon({3});
+    {
+        const KleineBestanden klein(1000);
+        Druk(venster, "cmdPrinten");
+    }
+    EXPECT_EQ(meldingen.getoond,
+              (std::vector<Melding>{
+                  {"Het bestand 'lijst.pdf' kan niet worden gemaakt!", Icoon::Uitroep}}));
+    EXPECT_FALSE(gemaakt());
+}
+#endif
 
 TEST_F(Printen, OfTheRankingOverAllLinesHasEveryPairOnce) {
     Instellingen instellingen;

@@ -29,6 +29,17 @@ protected:
     void druk(Qt::Key toets) const { QTest::keyClick(&P21, toets); }
 };
 
+/// Its first position: the slider below the upper arrow, the bar's own ground above the lower one.
+TEST_F(RasterSchuif, TheSliderStandsOutFromItsBar) {
+    toon(300, 3);
+    const QImage beeld = Beeld(VScroll20);
+    const int pijl = VScroll20.width();
+    const QColor schuif = beeld.pixelColor(beeld.width() / 2, pijl + 4);
+    const QColor grond = beeld.pixelColor(beeld.width() / 2, beeld.height() - pijl - 5);
+    EXPECT_GE(Contrast(schuif, grond), 1.5)
+        << schuif.name().toStdString() << " on " << grond.name().toStdString();
+}
+
 TEST_F(RasterSchuif, TheVerticalBarMovesTheBodyAndLeavesTheHeaders) {
     toon(500, 20);
     VScroll20.setValue(123);
