@@ -160,15 +160,17 @@ std::string GemiddeldeTekst(float gemiddelde) {
     return PercentageTekst(static_cast<std::int32_t>(Afgerond(gemiddelde, 3)));
 }
 
-ResultaatTabel BerekenKampioenen(const ZitRegels& zitRegels, const RondeInfo& rondeInfo,
+ResultaatTabel BerekenKampioenen(ZitRegels zitRegels, const RondeInfo& rondeInfo,
                                  const Criteria& criteria, const Opties& opties) {
     PaarTabel tabel = MaakPaarTabel(zitRegels, rondeInfo, opties);
-    const Minima minima = LeesMinima(tabel, criteria);
     ResultaatTabel resultaat;
-    resultaat.zittingen = rondeInfo.totaal();
     resultaat.leden = zitRegels.gedeeldeLeden();
-    resultaat.bovengrens = KiesDeelnemers(tabel, minima, zitRegels.leden(), opties.gewogen);
+    zitRegels = ZitRegels(); // with a million and a half rows the memory counts
+    resultaat.zittingen = rondeInfo.totaal();
+    const Minima minima = LeesMinima(tabel, criteria);
+    resultaat.bovengrens = KiesDeelnemers(tabel, minima, *resultaat.leden, opties.gewogen);
     resultaat.rijen = Gesorteerd(tabel.paren, opties.gemAlleLijnen);
+    tabel.paren = std::vector<PaarRij>();
     resultaat.cellen = std::move(tabel.cellen);
     if (opties.gemAlleLijnen) {
         RangAlleLijnen(resultaat);

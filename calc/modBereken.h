@@ -24,12 +24,12 @@ namespace lauwerkrans {
 /// The text "00.000" of an average held in single precision.
 [[nodiscard]] std::string GemiddeldeTekst(float gemiddelde);
 
-/// Calculates the ranking of the given score rows. `criteria` also says which lines the ranks per
-/// line run over. Throws Fout: a percentage that is no number, a line without a usable criterion,
-/// boards that do not fit 16 bits or add up to 0 in a weighted average.
-[[nodiscard]] ResultaatTabel BerekenKampioenen(const ZitRegels& zitRegels,
-                                               const RondeInfo& rondeInfo, const Criteria& criteria,
-                                               const Opties& opties);
+/// Calculates the ranking of the given score rows, and lets go of them on the way. `criteria` also
+/// says which lines the ranks per line run over. Throws Fout: a percentage that is no number, a
+/// line without a usable criterion, boards that do not fit 16 bits or add up to 0 in a weighted
+/// average.
+[[nodiscard]] ResultaatTabel BerekenKampioenen(ZitRegels zitRegels, const RondeInfo& rondeInfo,
+                                               const Criteria& criteria, const Opties& opties);
 
 /// Numbers the rows of each line 1, 2, 3, ... in table order, line after line, and marks ties.
 void RangPerLijn(ResultaatTabel& resultaat, std::size_t lijnen);

@@ -24,7 +24,8 @@ std::shared_ptr<const Uitslag> Bereken(Algemeen& algemeen, const std::string& li
     uitslag->criteria = criteria;
     uitslag->opties = opties;
     uitslag->rondeInfo = lezing.rondeInfo;
-    uitslag->resultaat = BerekenKampioenen(lezing.zitRegels, lezing.rondeInfo, criteria, opties);
+    uitslag->resultaat =
+        BerekenKampioenen(std::move(lezing.zitRegels), lezing.rondeInfo, criteria, opties);
     NeemOver(algemeen, lezing.rondeInfo, std::move(lezing.BumLijst));
     return uitslag;
 }
