@@ -34,10 +34,8 @@ mkdir -m 700 "$XDG_RUNTIME_DIR"
 omgeving() {
   local druk
   read -r druk _ </proc/loadavg
-  printf 'Run of %s on %d cores of %s; load at the start %s%s.\n' "$(date +%F)" "$(nproc)" \
-    "$(sed -n '/^model name/{s/.*: //p;q}' /proc/cpuinfo)" "$druk" \
-    "$(awk -v druk="$druk" 'BEGIN {
-      if (druk > 0.5) print ", so other work went on beside it: the times are too long" }')"
+  printf 'Run of %s on %d cores of %s; load at the start %s, the build just before included.\n' \
+    "$(date +%F)" "$(nproc)" "$(sed -n '/^model name/{s/.*: //p;q}' /proc/cpuinfo)" "$druk"
 }
 
 # benchmarks PROGRAM: each in a process of its own, so that the peak memory is its own.
