@@ -1,6 +1,8 @@
 #include "app/modInstellingen.h"
 
 #include <algorithm>
+#include <chrono>
+#include <thread>
 
 #include "data/codetabel.h"
 #include "data/fout.h"
@@ -73,6 +75,21 @@ bool IsCriteriumRegel(std::string_view inhoud) {
     return is != std::string_view::npos && Cijfers(inhoud.substr(3, is - 3), 99).has_value();
 }
 
+/// A virus scanner or a backup may hold the file for a moment, so it is tried for half a second.
+systeem::Leesbuffer LeesMetGeduld(const std::string& pad) {
+    constexpr int pogingen = 10;
+    constexpr std::chrono::milliseconds wachttijd(50);
+    for (int poging = 1; poging < pogingen; ++poging) {
+        try {
+            return LeesTekst(pad);
+        } catch (const Fout& fout) {
+            if (fout.code != std::errc::device_or_resource_busy) throw;
+        }
+        std::this_thread::sleep_for(wachttijd);
+    }
+    return LeesTekst(pad);
+}
+
 } // namespace
 
 std::string InstellingenPad(std::string_view programmaMap) {
@@ -84,7 +101,7 @@ void LeesInstellingen(Instellingen& instellingen, Algemeen& algemeen) {
     instellingen.IniRegels = Rij();
     instellingen.onleesbaar.clear();
     try {
-        const systeem::Leesbuffer buffer = LeesTekst(instellingen.bestand);
+        const systeem::Leesbuffer buffer = LeesMetGeduld(instellingen.bestand);
         Regels regels(ZonderBom(buffer.bytes()));
         while (const auto regel = regels.volgende()) {
             if (!ZonderBlanks(*regel).empty()) instellingen.IniRegels.voegToe(NaarUtf8(*regel));

@@ -233,19 +233,14 @@ Lezing LeesPercZitBestanden(Algemeen& algemeen, const Selectie& selectie) {
     Teller teller(algemeen.voortgang, mappen, zittingen);
     systeem::Leesbuffer buffer;
     std::vector<bool> gespeeld;
-    bool ietsNiet = false;
     for (std::size_t ronde = 1; ronde <= ronden; ++ronde) {
         for (std::size_t zitting = 1; zitting <= zittingen; ++zitting) {
             gespeeld.push_back(mappen.leesPercZit(ronde, zitting, buffer));
-            if (!gespeeld.back()) {
-                ietsNiet = ietsNiet || mappen.heeftZittingMap(ronde, zitting);
-                continue;
-            }
+            if (!gespeeld.back()) continue;
             lezer.leesZitting(ronde, zitting, buffer.bytes());
             teller.tel();
         }
     }
-    if (ietsNiet) mappen.controleer();
     teller.klaar();
     lezer.meldOverige();
     lezing.rondeInfo = RondeInfo(ronden, zittingen, gespeeld);

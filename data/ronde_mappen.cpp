@@ -50,6 +50,7 @@ RondeMappen::RondeMappen(std::string competitie, std::size_t ronden)
         Map& deel = mappen_[ronde - 1];
         deel.pad = VoegPad(map_, *naam);
         deel.namen = Namen(deel.pad);
+        if (deel.namen.empty()) controleer(); // a file of that name, or all of it gone
     }
 }
 
@@ -102,7 +103,10 @@ bool RondeMappen::leesPercZit(std::size_t ronde, std::size_t zitting,
         const auto ander = AndereLetterkast(*map, zitting);
         if (ander) code = systeem::LeesBestand(*ander, buffer);
     }
-    if (code == ontbreekt || code == std::errc::not_a_directory) return false;
+    if (code == ontbreekt || code == std::errc::not_a_directory) {
+        controleer(); // its folder was there: has it no file, or is all of it gone?
+        return false;
+    }
     if (code) GooiNietLeesbaar(PercZitPad(competitie_, ronde, zitting), code);
     return true;
 }

@@ -35,15 +35,6 @@ public:
     /// The real path of a round's CompBums.txt; empty when the round has none.
     [[nodiscard]] std::optional<std::string> compBums(std::size_t ronde) const;
 
-    /// Throws Fout as the making does when the competition's folder is no longer there: what was
-    /// not found meanwhile may have been taken away with it.
-    void controleer() const { static_cast<void>(namen()); }
-
-    /// Whether a session has a folder; it may be without a file.
-    [[nodiscard]] bool heeftZittingMap(std::size_t ronde, std::size_t zitting) const {
-        return zittingMap(ronde, zitting).has_value();
-    }
-
     /// How many of the sessions 1 to `zittingen` of all rounds have a folder.
     [[nodiscard]] std::size_t zittingMappen(std::size_t zittingen) const;
 
@@ -51,7 +42,8 @@ public:
     [[nodiscard]] bool heeftPercZit(std::size_t ronde, std::size_t zitting) const;
 
     /// Reads a session's percentage file; false when there is none. Throws Fout
-    /// (BestandNietLeesbaar) when it is there but cannot be read.
+    /// (BestandNietLeesbaar) when it is there but cannot be read, or when the competition's folder
+    /// has gone meanwhile.
     [[nodiscard]] bool leesPercZit(std::size_t ronde, std::size_t zitting,
                                    systeem::Leesbuffer& buffer) const;
 
@@ -62,6 +54,7 @@ private:
     };
 
     [[nodiscard]] std::vector<std::string> namen() const;
+    void controleer() const { static_cast<void>(namen()); }
     [[nodiscard]] std::optional<std::string> zittingMap(std::size_t ronde,
                                                         std::size_t zitting) const;
 

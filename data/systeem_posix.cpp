@@ -84,15 +84,20 @@ std::error_code SchrijfEnSpoel(const std::string& pad, std::string_view bytes) {
     return greep.spoel() ? std::error_code{} : LaatsteFout();
 }
 
+/// A pipe is not waited for; a file that another program has on loan (a file server) is.
+int OpenOmTeLezen(const std::string& pad) {
+    constexpr int vlaggen = O_RDONLY | O_CLOEXEC | O_NOCTTY;
+    const int greep = ::open(pad.c_str(), vlaggen | O_NONBLOCK);
+    return greep < 0 && errno == EWOULDBLOCK ? ::open(pad.c_str(), vlaggen) : greep;
+}
+
 constexpr std::size_t eersteRuimte = std::size_t{64} * 1024;
 
 } // namespace
 
 std::error_code LeesBestand(const std::string& pad, Leesbuffer& buffer) {
     buffer.lengte = 0;
-    // A pipe of that name is not waited for.
-    constexpr int vlaggen = O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
-    const Bestandsgreep greep(::open(Schrijfwijze(pad).c_str(), vlaggen));
+    const Bestandsgreep greep(OpenOmTeLezen(Schrijfwijze(pad)));
     if (!greep.open()) return LaatsteFout();
     if (const auto fout = greep.geenBestand()) return fout;
     std::vector<char>& ruimte = buffer.ruimte;

@@ -38,7 +38,8 @@ namespace lauwerkrans {
 /// The error of a file that cannot be written, as Fout (BestandNietSchrijfbaar).
 [[noreturn]] void GooiNietSchrijfbaar(const std::string& pad, const std::error_code& code);
 
-/// Whether a file stands there, its name in any letter case, readable or not.
+/// Whether anything but a missing file stands there, its name in any letter case: what can be read,
+/// and what cannot be for any other reason.
 [[nodiscard]] bool StaatEr(const std::string& pad);
 
 /// Replaces the contents of a file by a text, written in the code page, whole or not at all.

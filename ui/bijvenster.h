@@ -16,7 +16,7 @@ public:
     Bijvenster();
 
     /// Shows the window and brings it to the front; the first time in the middle of the given one,
-    /// within the screen. On a screen that is smaller than its minimum it is shown scrolling.
+    /// within the screen. When that is smaller than its minimum then, it scrolls from then on.
     void toonOver(const QWidget& venster);
 
 private:

@@ -168,7 +168,7 @@ void frmMain::bereken(const std::string& lijnen) {
     leeswacht_->bewaak([&] { uitslag = Bereken(algemeen_, lijnen, rijen_->criteria(), opties()); });
     Toon_in_P10();
     ToonControle = 0;
-    ToonLvwRes(uitslag);
+    ToonLvwRes(std::move(uitslag));
     zetPrintbaar(uitslag_->resultaat.bovengrens > 0);
 }
 
@@ -234,10 +234,10 @@ void frmMain::zetUitvoerBijschrift(bool ledenlijst) {
                              : QString::fromUtf8(OntwerpVan("cmdPrinten").bijschrift));
 }
 
-void frmMain::ToonLvwRes(const std::shared_ptr<const Uitslag>& uitslag) {
+void frmMain::ToonLvwRes(std::shared_ptr<const Uitslag> uitslag) {
     toonLijst(MaakRanglijst(uitslag, uitslag->opties.zitDetails, ToonControle == 1), [&] {
         Resets();
-        uitslag_ = uitslag;
+        uitslag_ = std::move(uitslag);
     });
 }
 

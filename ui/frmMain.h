@@ -53,7 +53,7 @@ public:
     void Resets();
 
     /// Makes a calculation the last one, and shows its ranking in the grid.
-    void ToonLvwRes(const std::shared_ptr<const Uitslag>& uitslag);
+    void ToonLvwRes(std::shared_ptr<const Uitslag> uitslag);
 
     /// Shows the score rows of a reading in the grid.
     void ToonLvwR(const std::shared_ptr<const Controle>& controle);

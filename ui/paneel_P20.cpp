@@ -131,9 +131,10 @@ void PaneelP20::zetVergroting(int procent) {
 }
 
 void PaneelP20::vul(std::shared_ptr<const Lijst> lijst, Tabelbeeld beeld) {
+    std::vector<QPushButton*> knoppen(lijst->kolommen()); // may fail, so before all else
     Verw_Headers();
     lijst_ = std::move(lijst);
-    cmd20_.resize(lijst_->kolommen());
+    cmd20_ = std::move(knoppen);
     tabelBreedte_ = beeld.x.back();
     const double hoogte = rooster::rijHoogte * static_cast<double>(beeld.rijen) +
                           rooster::kopHoogte + rooster::onderMarge;

@@ -1,5 +1,6 @@
 // The calculation on arbitrary rows: what it gives is what the plain calculation gives.
 #include <array>
+#include <limits>
 
 #include "kern/gevallen.h"
 
@@ -75,9 +76,12 @@ proef::Geval MaakGeval(Bron& bron) {
     return geval;
 }
 
-/// The plain calculation knows percentages as the suite writes them: no tab and no sign.
-bool IsGewoon(const std::string& percentage) {
-    return IsPercentage(percentage) && percentage.find_first_of("\t+-") == std::string::npos;
+/// The plain calculation knows percentages as the suite writes them, without tab and sign, and
+/// boards that weigh.
+bool IsGewoon(const proef::Score& score) {
+    return IsPercentage(score.percentage) &&
+           score.percentage.find_first_of("\t+-") == std::string::npos && score.spellen >= 0 &&
+           score.spellen <= std::numeric_limits<std::int16_t>::max();
 }
 
 } // namespace
@@ -85,10 +89,10 @@ bool IsGewoon(const std::string& percentage) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* gegevens, std::size_t lengte) {
     Bron bron(gegevens, lengte);
     proef::Geval geval = MaakGeval(bron);
-    // With the percentages as they are, which may be refused, and then with those that may not.
-    fuzz::Probeer([&] { static_cast<void>(VolgensProgramma(geval, {})); });
-    std::erase_if(geval.scores,
-                  [](const proef::Score& score) { return !IsGewoon(score.percentage); });
+    // With the rows as they are, which may be refused, and then with those that may not.
+    for (const Opties& opties : proef::AlleOpties())
+        fuzz::Probeer([&] { static_cast<void>(VolgensProgramma(geval, opties)); });
+    std::erase_if(geval.scores, [](const proef::Score& score) { return !IsGewoon(score); });
     for (const Opties& opties : proef::AlleOpties()) {
         if (VolgensProgramma(geval, opties) != VolgensNaief(geval, opties)) __builtin_trap();
     }

@@ -74,19 +74,32 @@ public:
     }
 
 private:
-    /// Presses a button that can be pressed; of a preview that opens, those of the list files.
+    /// Presses a button that can be pressed; that of the output opens a preview.
     void druk(const QWidget& venster, const char* naam) {
         auto* knop = Vind<QAbstractButton>(venster, naam);
         if (!knop->isEnabled()) return;
         knop->click();
         QCoreApplication::processEvents();
+        const bool uitvoer = knop->objectName() == QLatin1String("cmdPrinten");
+        EXPECT_EQ(schrijfLijsten(), uitvoer ? 1 : 0);
+    }
+
+    /// Writes both list files from each preview on show; how many there were.
+    int schrijfLijsten() {
+        int voorbeelden = 0;
         for (QWidget* voorbeeld : QApplication::topLevelWidgets()) {
             if (!voorbeeld->isVisible() || voorbeeld->objectName() != QLatin1String("frmPrinten"))
                 continue;
+            const std::size_t eerder = meldingen_.size();
             Vind<QAbstractButton>(*voorbeeld, "cmdMaakCSV")->click();
             Vind<QAbstractButton>(*voorbeeld, "cmdMaakHtml")->click();
+            EXPECT_EQ(meldingen_.size(), eerder + 2);
+            EXPECT_TRUE(Past("*met succes aangemaakt*", meldingen_.at(eerder).tekst));
+            EXPECT_TRUE(Past("*HTMLbestand heet*", meldingen_.at(eerder + 1).tekst));
             voorbeeld->close();
+            ++voorbeelden;
         }
+        return voorbeelden;
     }
 
     void meld(const Melding& melding) {

@@ -8,6 +8,7 @@
 #include <iterator>
 
 #include <csignal>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -44,6 +45,28 @@ TEST(LeesBestand, ReadsNothingThatIsNoFile) {
     EXPECT_EQ(systeem::LeesBestand(pijp, buffer), std::errc::file_exists);
     EXPECT_EQ(systeem::LeesBestand(map.pad() + "/nullen", buffer), std::errc::file_exists);
     EXPECT_EQ(buffer.bytes(), "");
+}
+
+int geleend = -1;
+void GeefTerug(int /*sein*/) { ::fcntl(geleend, F_SETLEASE, F_UNLCK); }
+
+/// A file server has the file on loan and gives it back when somebody asks for it.
+TEST(LeesBestand, WaitsForAFileThatIsOnLoan) {
+    const proef::Proefmap map;
+    map.schrijf("lijst", "inhoud");
+    geleend = ::open((map.pad() + "/lijst").c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_GE(geleend, 0);
+    if (::fcntl(geleend, F_SETLEASE, F_WRLCK) != 0) GTEST_SKIP() << "this disk lends no files";
+    struct ::sigaction nieuw {};
+    struct ::sigaction oud {};
+    nieuw.sa_handler = GeefTerug;
+    nieuw.sa_flags = SA_RESTART;
+    ::sigaction(SIGIO, &nieuw, &oud);
+    systeem::Leesbuffer buffer;
+    EXPECT_FALSE(systeem::LeesBestand(map.pad() + "/lijst", buffer));
+    EXPECT_EQ(buffer.bytes(), "inhoud");
+    ::sigaction(SIGIO, &oud, nullptr);
+    ::close(geleend);
 }
 
 TEST(VervangBestand, WritesThroughNoLinkThatStandsInTheWay) {
