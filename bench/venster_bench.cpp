@@ -49,22 +49,39 @@ double Stap(frmMain& venster, const char* naam) {
     return Mediaan(tijden) * 1e3;
 }
 
-void Meet(benchmark::State& state, const Maat& maat) {
-    for (auto _ : state) {
-        const Competitie competitie(maat);
-        Algemeen algemeen;
+/// The window on a competition of its own; a message ends the benchmark.
+struct Proefvenster {
+    explicit Proefvenster(const Maat& maat) : competitie(maat) {
         algemeen.meld = [](const Melding& melding) { throw std::runtime_error(melding.tekst); };
-        Instellingen instellingen;
-        frmMain venster(algemeen, instellingen, {});
-        state.counters["start_ms"] =
-            1e3 * Duur([&] {
-                if (!Form_Load(venster, algemeen, instellingen, competitie.programmaMap()))
-                    std::abort();
-                venster.show();
-                benchmark::DoNotOptimize(venster.grab().cacheKey());
-            });
+    }
+
+    void toon() {
+        if (!Form_Load(venster, algemeen, instellingen, competitie.programmaMap())) std::abort();
+        venster.show();
+    }
+
+    /// Every pair takes part.
+    void zetCriteria() {
         for (std::size_t lijn = 1; lijn <= venster.rijen().lijnen(); ++lijn)
             venster.rijen().zetCriterium(lijn, "1");
+    }
+
+    Competitie competitie;
+    Algemeen algemeen;
+    Instellingen instellingen;
+    frmMain venster{algemeen, instellingen, {}};
+};
+
+void Meet(benchmark::State& state, const Maat& maat) {
+    for (auto _ : state) {
+        Proefvenster proef(maat);
+        const Competitie& competitie = proef.competitie;
+        frmMain& venster = proef.venster;
+        state.counters["start_ms"] = 1e3 * Duur([&] {
+                                         proef.toon();
+                                         benchmark::DoNotOptimize(venster.grab().cacheKey());
+                                     });
+        proef.zetCriteria();
         std::vector<double> kale;
         std::vector<double> berekenen;
         std::vector<double> controleren;
@@ -100,17 +117,12 @@ void Meet(benchmark::State& state, const Maat& maat) {
 /// the button, showing it anew from the calculation that is there.
 void MeetDetails(benchmark::State& state, const Maat& maat, QSize grootte) {
     for (auto _ : state) {
-        const Competitie competitie(maat);
-        Algemeen algemeen;
-        algemeen.meld = [](const Melding& melding) { throw std::runtime_error(melding.tekst); };
-        Instellingen instellingen;
-        frmMain venster(algemeen, instellingen, {});
-        if (!Form_Load(venster, algemeen, instellingen, competitie.programmaMap())) std::abort();
+        Proefvenster proef(maat);
+        frmMain& venster = proef.venster;
         venster.resize(grootte);
-        venster.show();
+        proef.toon();
         Vind<QCheckBox>(venster, "chkZitDetails")->setChecked(true);
-        for (std::size_t lijn = 1; lijn <= venster.rijen().lijnen(); ++lijn)
-            venster.rijen().zetCriterium(lijn, "1");
+        proef.zetCriteria();
         std::vector<double> bereken;
         std::vector<double> tonen;
         for (int i = 0; i < keren; ++i) {
